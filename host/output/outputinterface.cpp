@@ -1,0 +1,3 @@
+#include "outputinterface.h"
+
+OutputInterface::~OutputInterface() = default;

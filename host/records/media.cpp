@@ -1,0 +1,3 @@
+#include "media.h"
+
+Media::~Media() = default;

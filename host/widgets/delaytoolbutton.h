@@ -1,0 +1,24 @@
+#pragma once
+
+#include "host_export.h"
+
+#include <QToolButton>
+
+// The host's styled ToolButton.
+class HOST_EXPORT DelayToolButton : public QToolButton
+{
+    Q_OBJECT
+public:
+    explicit DelayToolButton(QWidget* parent = nullptr);
+
+    // Clicks closer together than this are ignored (a double click must not start and stop).
+    int delay() const { return m_delay; }
+    void setDelay(int milliseconds) { m_delay = milliseconds; }
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    int m_delay = 500;
+    qint64 m_lastClick = 0;
+};

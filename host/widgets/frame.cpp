@@ -1,0 +1,7 @@
+#include "frame.h"
+
+Frame::Frame(QWidget* parent) : QFrame(parent)
+{
+    setFrameShape(QFrame::StyledPanel);
+    setFrameShadow(QFrame::Plain);
+}

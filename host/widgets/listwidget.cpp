@@ -1,0 +1,7 @@
+#include "listwidget.h"
+
+ListWidget::ListWidget(QWidget* parent) : QListWidget(parent)
+{
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+}

@@ -1,0 +1,9 @@
+#include "qmessageboxex.h"
+
+#include "messagebox.h"
+
+QMessageBox::StandardButton QMessageBoxEx::question(QWidget* parent, const QString& title, const QString& text,
+                                                    StandardButtons buttons, StandardButton defaultButton)
+{
+    return MessageBox::question(parent, title, text, buttons, defaultButton);
+}

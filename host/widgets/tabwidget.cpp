@@ -1,0 +1,6 @@
+#include "tabwidget.h"
+
+TabWidget::TabWidget(QWidget* parent) : QTabWidget(parent)
+{
+    setDocumentMode(true);
+}
