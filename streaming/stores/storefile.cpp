@@ -39,11 +39,12 @@ bool StoreFile::write(const QString& path, const QByteArray& contents, Access ac
         QDir().mkpath(directory);
 
     QSaveFile file(path);
-    bool ok = file.open(QIODevice::WriteOnly);
+    // Unbuffered: a buffered QSaveFile commits a short file when its final flush fails.
+    bool ok = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
     if (ok && access == OwnerOnly)
         ok = file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     if (ok)
-        ok = file.write(contents) == contents.size();
+        ok = file.write(contents) == contents.size() && file.flush() && file.error() == QFileDevice::NoError;
     if (ok)
         ok = file.commit();
     else
