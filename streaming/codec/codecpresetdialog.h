@@ -8,6 +8,8 @@
 
 #include <memory>
 
+class QIntValidator;
+
 namespace Ui {
 class CodecPresetDialog;
 }
@@ -56,4 +58,5 @@ private:
     CodecPreset m_preset; // what the operator asked for; lists fall back when a codec can't do it
     bool m_wantedCustom = false;
     bool m_filling = false;
+    QIntValidator* m_bitrateValidator = nullptr;
 };
