@@ -17,6 +17,9 @@ const QString jsonSuffix = QStringLiteral("json");
 
 QString StoreFile::safeBaseName(const QString& baseName)
 {
+    // ".json" would be a hidden file, skipped by every reload.
+    if (baseName.isEmpty())
+        return QString(QChar(0x2205));
     QString name = baseName;
     // Look-alike characters keep the name readable in a file manager.
     name.replace(QLatin1Char('/'), QChar(0x2215));
@@ -39,11 +42,12 @@ bool StoreFile::write(const QString& path, const QByteArray& contents, Access ac
         QDir().mkpath(directory);
 
     QSaveFile file(path);
-    bool ok = file.open(QIODevice::WriteOnly);
+    // Unbuffered: a buffered QSaveFile commits a short file when its final flush fails.
+    bool ok = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
     if (ok && access == OwnerOnly)
         ok = file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     if (ok)
-        ok = file.write(contents) == contents.size();
+        ok = file.write(contents) == contents.size() && file.flush() && file.error() == QFileDevice::NoError;
     if (ok)
         ok = file.commit();
     else
