@@ -22,6 +22,8 @@ WebView::WebView(QWidget* parent)
     : QWidget(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
+    // Pages react to hovering, not only to drags.
+    setMouseTracking(true);
     setAutoFillBackground(true);
     QPalette white = palette();
     white.setBrush(QPalette::All, QPalette::Window, QBrush(Qt::white, Qt::SolidPattern));
