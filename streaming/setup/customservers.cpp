@@ -18,11 +18,12 @@ CustomServers::CustomServers(QComboBox* list)
 void CustomServers::fill()
 {
     m_list->clear();
-    const StreamingManager* manager = StreamingManager::getInstancePtr();
+    StreamingManager* manager = StreamingManager::getInstancePtr();
     if (!manager) {
         qCWarning(lcStreamingSetup) << "no server store: the custom server list stays empty";
         return;
     }
+    manager->reloadPresets();
     QList<ServerInfo> servers = manager->serverInfos();
     std::stable_sort(servers.begin(), servers.end(), [](const ServerInfo& a, const ServerInfo& b) {
         return a.channel.title.localeAwareCompare(b.channel.title) < 0;
