@@ -7,6 +7,7 @@
 #include "streamingmanager.h"
 
 #include <QComboBox>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -28,6 +29,7 @@ void CustomServers::fill()
     std::stable_sort(servers.begin(), servers.end(), [](const ServerInfo& a, const ServerInfo& b) {
         return a.channel.title.localeAwareCompare(b.channel.title) < 0;
     });
+    const QSignalBlocker blocker(m_list);
     for (const ServerInfo& server : qAsConst(servers)) {
         m_list->addItem(server.channel.title);
         setItem(m_list->count() - 1, server.channel, server.oauth);
@@ -54,6 +56,7 @@ bool CustomServers::add(QWidget* parent)
     channel.provider = ServiceTables::customName();
     if (!store(channel, dialog.oauth()))
         return false;
+    const QSignalBlocker blocker(m_list);
     m_list->addItem(channel.title);
     setItem(m_list->count() - 1, channel, dialog.oauth());
     m_list->setCurrentIndex(m_list->count() - 1);
@@ -74,6 +77,7 @@ bool CustomServers::remove(QWidget* parent)
         manager->remove(title);
         manager->reloadPresets();
     }
+    const QSignalBlocker blocker(m_list);
     m_list->removeItem(index);
     return true;
 }

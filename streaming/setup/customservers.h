@@ -12,7 +12,8 @@ class QWidget;
 
 // The user's own servers as the panel lists them: each item of the list carries
 // its Channel under Qt::UserRole + 1 and its OAuth under Qt::UserRole + 2, and
-// every add, edit and removal goes to the server store at once.
+// every add, edit and removal goes to the server store at once. The list changes
+// with its signals blocked: the caller applies the new selection.
 class CustomServers
 {
     Q_DECLARE_TR_FUNCTIONS(CustomServers)

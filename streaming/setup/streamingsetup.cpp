@@ -198,7 +198,9 @@ void StreamingSetup::initializeProvider()
 {
     qDeleteAll(providers);
     providers.clear();
+    m_serviceIcons.clear();
     for (const ServiceTables::Service& service : ServiceTables::services()) {
+        m_serviceIcons.insert(service.name, service.icon);
         switch (service.kind) {
         case ServiceTables::Kind::Hitbox:
             providers.append(new Hitbox(this));
@@ -235,11 +237,8 @@ void StreamingSetup::initializeUi()
             &StreamingSetup::videoSourceChange);
     ui->addPreset->setEnabled(ui->codecList->count() > 0);
 
-    QHash<QString, QString> icons;
-    for (const ServiceTables::Service& service : ServiceTables::services())
-        icons.insert(service.name, service.icon);
     for (Provider* provider : qAsConst(providers)) {
-        const QIcon icon = provider->icon().isNull() ? QIcon(icons.value(provider->name())) : QIcon(provider->icon());
+        const QIcon icon = provider->icon().isNull() ? QIcon(m_serviceIcons.value(provider->name())) : QIcon(provider->icon());
         panel->providerSelect->addItem(icon, provider->name(), QVariant::fromValue(provider));
         if (provider->name() == ServiceTables::customName())
             panel->providerSelect->insertSeparator(panel->providerSelect->count());
@@ -355,15 +354,15 @@ void StreamingSetup::signalMapper(int id)
         m_panel->applyCustomServer(current);
         break;
     case CustomAddId:
-        m_customServers->add(this);
-        break;
     case CustomRemoveId:
-        m_customServers->remove(this);
-        break;
-    case CustomEditId:
-        if (m_customServers->edit(this))
+    case CustomEditId: {
+        const bool changed = id == CustomAddId      ? m_customServers->add(this)
+                           : id == CustomRemoveId ? m_customServers->remove(this)
+                                                  : m_customServers->edit(this);
+        if (changed)
             m_panel->applyCustomServer(current);
         break;
+    }
     case ChannelSelectId:
         m_panel->applyChannel(current);
         break;

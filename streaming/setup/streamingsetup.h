@@ -6,6 +6,7 @@
 #include "viewinterface.h"
 
 #include <QDialog>
+#include <QHash>
 #include <QList>
 #include <QMetaObject>
 #include <QString>
@@ -105,6 +106,7 @@ private:
     QSignalMapper* m_mapper = nullptr;
     QTimer* m_bandwidthWatch = nullptr;
     QMetaObject::Connection m_webConnection;
+    QHash<QString, QString> m_serviceIcons; // service name -> list icon
     std::unique_ptr<PanelUpdater> m_panel;
     std::unique_ptr<CustomServers> m_customServers;
 };
