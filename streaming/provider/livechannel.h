@@ -1,5 +1,7 @@
 #pragma once
 
+#include "channel.h"
+
 #include <QString>
 
 // One thing a provider can stream to: a channel, a broadcast or a live video,
@@ -21,4 +23,17 @@ struct LiveChannel {
     QString chatId;      // live chat of the broadcast
     int flags = 0;
     QString category;    // the service's category identifier
+
+    // The record the streaming store keeps for a chosen channel.
+    Channel toChannel(const QString& providerName) const
+    {
+        Channel channel;
+        channel.id = id;
+        channel.provider = providerName;
+        channel.title = name;
+        channel.description = description;
+        channel.url = streamUrl;
+        channel.key = streamKey;
+        return channel;
+    }
 };

@@ -1,3 +1,4 @@
+#include "dailymotion.h"
 #include "eventdialog.h"
 #include "fakeview.h"
 #include "provider.h"
@@ -100,6 +101,7 @@ private slots:
     void endTimeNeedsItsBox();
     void rowsFollowTheProvider_data();
     void rowsFollowTheProvider();
+    void dailyMotionShowsTitleAndCategory();
     void providerListsFillTheCombos();
     void startTimeIsUtcInEveryZone_data();
     void startTimeIsUtcInEveryZone();
@@ -224,6 +226,15 @@ void TestEventDialog::rowsFollowTheProvider()
     EventDialog dialog;
     dialog.enableUi(&service, update);
     QCOMPARE(Form(dialog).rows(), rows);
+}
+
+void TestEventDialog::dailyMotionShowsTitleAndCategory()
+{
+    FakeView view;
+    DailyMotion service(&view);
+    EventDialog dialog;
+    dialog.enableUi(&service, false);
+    QCOMPARE(Form(dialog).rows(), QStringLiteral("10000001"));
 }
 
 void TestEventDialog::providerListsFillTheCombos()
