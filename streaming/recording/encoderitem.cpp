@@ -6,15 +6,30 @@
 #include "outputinterface.h"
 #include "quillonengine.h"
 
+namespace {
+
+// Decoded once and shared: a setup may hold a hundred rows.
+const QIcon& buttonIcon(int kind)
+{
+    auto make = [](const char* off, const char* on) {
+        QIcon icon{QString::fromLatin1(off)};
+        icon.addFile(QString::fromLatin1(on), QSize(), QIcon::Normal, QIcon::On);
+        return icon;
+    };
+    static const QIcon streaming =
+        make(":/resources/appicons/streaming.png", ":/resources/appicons/streaming_active.png");
+    static const QIcon recording =
+        make(":/resources/appicons/recording.png", ":/resources/appicons/recording_active.png");
+    return kind == 0 ? streaming : recording;
+}
+
+} // namespace
+
 EncoderItem::EncoderItem(QWidget* parent, OutputInterface* host, int kind)
     : QWidget(parent), ui(new Ui::EncoderItem), m_host(host), m_kind(kind)
 {
     ui->setupUi(this);
-    if (kind == 0) {
-        QIcon icon(QStringLiteral(":/resources/appicons/streaming.png"));
-        icon.addFile(QStringLiteral(":/resources/appicons/streaming_active.png"), QSize(), QIcon::Normal, QIcon::On);
-        ui->encodingBtn->setIcon(icon);
-    }
+    ui->encodingBtn->setIcon(buttonIcon(kind));
     connect(ui->encodingBtn, &QToolButton::toggled, this, &EncoderItem::encoding);
 }
 
