@@ -1,0 +1,28 @@
+#pragma once
+
+#include "streaming_export.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QString>
+
+#include <functional>
+
+class CodecPreset;
+struct Snapshot;
+
+// Expands a file tag: "%Y", "%M", "%D", "%h", "%m", "%s" (date and time), "%C",
+// "%B", "%R" (codec, bit rate, resolution; recordings only), "%P" (preset or
+// grab name) and "%S" (source). Anything else stays as typed.
+class STREAMING_EXPORT FileTag
+{
+    Q_DECLARE_TR_FUNCTIONS(FileTag)
+
+public:
+    static QString fromCodecPreset(const CodecPreset* preset, bool withExtension);
+    static QString fromSnapshot(const Snapshot& shot, bool withExtension);
+
+    // The clock read once per expansion; tests fix the instant with it.
+    static void setClock(std::function<QDateTime()> clock);
+    static void resetClock();
+};
