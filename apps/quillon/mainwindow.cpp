@@ -112,7 +112,10 @@ QDialog* MainWindow::openDialog(const QString& id)
                 dialog->setAttribute(Qt::WA_DeleteOnClose);
         }
         m_session.log()->info(tr("Opened %1").arg(OutputDialogRegistry::label(entry)));
-        dialog->open();
+        if (entry.present)
+            entry.present(dialog);
+        else
+            dialog->open();
         return dialog;
     }
     return nullptr;

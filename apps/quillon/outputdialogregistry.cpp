@@ -29,7 +29,7 @@ const QList<OutputDialogRegistry::Entry>& OutputDialogRegistry::entries()
 {
     static const QList<Entry> list{
         {QStringLiteral("fileNaming"), QT_TR_NOOP("File Naming…"), QStringLiteral(":/resources/appicons/addfiles.png"),
-         false, createFileNaming},
+         false, createFileNaming, {}},
     };
     return list;
 }

@@ -28,6 +28,9 @@ public:
         // the others are made for each opening and deleted when closed.
         bool keep;
         std::function<QDialog*(QWidget* parent, HostSession& session)> create;
+        // How the console brings the dialog up; empty means QDialog::open(). A dialog that
+        // reloads its settings in exec() or opens with a flag says so here.
+        std::function<void(QDialog* dialog)> present;
     };
 
     static const QList<Entry>& entries();
