@@ -1,6 +1,7 @@
 #include "hostsession.h"
 
 #include "activitylog.h"
+#include "capturemanager.h"
 #include "codecmanager.h"
 #include "contentssettings.h"
 #include "displaymode.h"
@@ -58,6 +59,18 @@ void HostSession::loadLicenseAndProject()
                     .arg(v.height)
                     .arg(DisplayMode(v.height, v.interlaced, v.frameRate).name())
                     .arg(m_project.audioOutput().sampleRate));
+    logDevices();
+}
+
+void HostSession::logDevices() const
+{
+    const CaptureManager& capture = CaptureManager::instance();
+    m_log->info(tr("Video outputs: %1 SDI, %2 NDI, %3 display, %4 virtual camera; %5 audio devices.")
+                    .arg(capture.outputDevices(VideoDevice::Sdi).size())
+                    .arg(capture.outputDevices(VideoDevice::Ndi).size())
+                    .arg(capture.outputDevices(VideoDevice::Display).size())
+                    .arg(capture.outputDevices(VideoDevice::VirtualCamera).size())
+                    .arg(QuillonEngine::audioDevices().size()));
 }
 
 void HostSession::openStores()

@@ -48,6 +48,7 @@ public:
 
 private:
     void loadLicenseAndProject();
+    void logDevices() const;
     void openStores();
     void openSetup();
     CodecPreset makeNamingSample() const;
