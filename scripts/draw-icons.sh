@@ -35,3 +35,5 @@ badge dailymotion.png '#1d2a40' 'D'
 badge hitbox.png '#7cb342' 'S'
 badge custom.png '#5f6b73' 'C'
 badge service.png '#8a8a8a' 'S'
+# eye, for the buttons that reveal a hidden text
+c -fill none -stroke '#9a9a9a' -strokewidth 5 -draw "ellipse 32,32 26,15 0,360" -fill '#9a9a9a' -stroke none -draw "circle 32,32 32,22" appicons/eye.png

@@ -17,6 +17,9 @@ const QString jsonSuffix = QStringLiteral("json");
 
 QString StoreFile::safeBaseName(const QString& baseName)
 {
+    // ".json" would be a hidden file, skipped by every reload.
+    if (baseName.isEmpty())
+        return QString(QChar(0x2205));
     QString name = baseName;
     // Look-alike characters keep the name readable in a file manager.
     name.replace(QLatin1Char('/'), QChar(0x2215));

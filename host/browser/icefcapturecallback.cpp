@@ -1,0 +1,3 @@
+#include "icefcapturecallback.h"
+
+ICefCaptureCallback::~ICefCaptureCallback() = default;

@@ -1,0 +1,188 @@
+#include "webview.h"
+
+#include "browsermanager.h"
+#include "cefmanager.h"
+
+#include <QLabel>
+#include <QLoggingCategory>
+#include <QMutexLocker>
+#include <QPainter>
+#include <QThread>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <cstring>
+#include <limits>
+
+namespace {
+Q_LOGGING_CATEGORY(lcWebView, "streaming.provider.webview")
+}
+
+WebView::WebView(QWidget* parent)
+    : QWidget(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    // Pages react to hovering, not only to drags.
+    setMouseTracking(true);
+    setAutoFillBackground(true);
+    QPalette white = palette();
+    white.setBrush(QPalette::All, QPalette::Window, QBrush(Qt::white, Qt::SolidPattern));
+    setPalette(white);
+
+    // Without a browser engine the operator still gets the address to open elsewhere.
+    m_noBrowserLabel = new QLabel(this);
+    m_noBrowserLabel->setObjectName(QStringLiteral("noBrowserLabel"));
+    m_noBrowserLabel->setAlignment(Qt::AlignCenter);
+    m_noBrowserLabel->setWordWrap(true);
+    m_noBrowserLabel->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_noBrowserLabel->setTextFormat(Qt::PlainText);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_noBrowserLabel);
+    updateNoBrowserText();
+}
+
+WebView::~WebView()
+{
+    CefManager::instance()->deleteBrowser(this);
+}
+
+void WebView::loadUrl(const QUrl& url)
+{
+    CefManager* manager = CefManager::instance();
+    if (url.isEmpty()) {
+        manager->deleteBrowser(this);
+        m_url.clear();
+        updateNoBrowserText();
+        return;
+    }
+    m_url = url.toString(QUrl::FullyEncoded);
+    updateNoBrowserText();
+    if (!manager->findBrowser(this) && !manager->createBrowser(this)) {
+        qCWarning(lcWebView) << "No browser to load" << m_url;
+        return;
+    }
+    manager->loadUrl(this, m_url);
+}
+
+void WebView::deleteCookies()
+{
+    CefManager::instance()->deleteCookies();
+}
+
+QImage WebView::frameImage() const
+{
+    QMutexLocker lock(&m_frameMutex);
+    return m_frame.copy();
+}
+
+void WebView::onPaint(const void* buffer, int width, int height)
+{
+    const qint64 bytes = qint64(width) * height * 4;
+    if (!buffer || width <= 0 || height <= 0 || bytes > std::numeric_limits<int>::max()) {
+        qCWarning(lcWebView) << "Ignored a frame of" << width << "x" << height;
+        return;
+    }
+    {
+        QMutexLocker lock(&m_frameMutex);
+        if (m_frameBytes.size() != bytes)
+            m_frameBytes.resize(int(bytes));
+        std::memcpy(m_frameBytes.data(), buffer, size_t(bytes));
+        m_frame = QImage(reinterpret_cast<const uchar*>(m_frameBytes.constData()), width, height, width * 4,
+                         QImage::Format_ARGB32);
+    }
+    if (QThread::currentThread() == thread())
+        update();
+    else
+        QMetaObject::invokeMethod(this, qOverload<>(&QWidget::update), Qt::QueuedConnection);
+}
+
+void WebView::onLoadingStateChanged(bool) {}
+
+QSize WebView::size() const
+{
+    return QWidget::size();
+}
+
+int WebView::frameRate() const
+{
+    return 60;
+}
+
+QString WebView::url() const
+{
+    return m_url;
+}
+
+quintptr WebView::parentWindowHandle() const
+{
+    return 0;
+}
+
+bool WebView::isTransparent() const
+{
+    return false;
+}
+
+void WebView::onUrlChanged(const QString& url)
+{
+    emit urlChanged(url);
+}
+
+void WebView::onTitleChanged(const QString&) {}
+
+void WebView::paintEvent(QPaintEvent*)
+{
+    QMutexLocker lock(&m_frameMutex);
+    if (m_frame.isNull())
+        return;
+    QPainter painter(this);
+    painter.drawImage(0, 0, m_frame);
+}
+
+void WebView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    CefManager::instance()->resized(this);
+}
+
+void WebView::mousePressEvent(QMouseEvent* event)
+{
+    CefManager::instance()->mousePressEvent(this, event);
+}
+
+void WebView::mouseReleaseEvent(QMouseEvent* event)
+{
+    CefManager::instance()->mouseReleaseEvent(this, event);
+}
+
+void WebView::mouseMoveEvent(QMouseEvent* event)
+{
+    CefManager::instance()->mouseMoveEvent(this, event);
+}
+
+void WebView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    CefManager::instance()->mouseDoubleClickEvent(this, event);
+}
+
+void WebView::wheelEvent(QWheelEvent* event)
+{
+    CefManager::instance()->wheelEvent(this, event);
+}
+
+void WebView::keyPressEvent(QKeyEvent* event)
+{
+    CefManager::instance()->keyPressEvent(this, event);
+}
+
+void WebView::updateNoBrowserText()
+{
+    const bool engine = CefManager::instance()->hasEngine();
+    m_noBrowserLabel->setVisible(!engine);
+    if (engine)
+        return;
+    QString text = tr("No web browser is available on this system.");
+    if (!m_url.isEmpty())
+        text += QLatin1Char('\n') + tr("Open this address in a web browser to continue:") + QLatin1Char('\n') + m_url;
+    m_noBrowserLabel->setText(text);
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "icefcapturecallback.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QMutex>
+#include <QString>
+#include <QWidget>
+
+class QLabel;
+class QUrl;
+
+// Shows a page rendered by the host's off-screen browser and forwards input to it.
+// Frames may arrive on the browser's own thread; they are copied under m_frameMutex
+// and painted on the GUI thread.
+class WebView : public QWidget, public ICefCaptureCallback
+{
+    Q_OBJECT
+public:
+    explicit WebView(QWidget* parent = nullptr);
+    ~WebView() override;
+
+    // An empty URL closes the browser; any other creates one when needed and loads it.
+    void loadUrl(const QUrl& url);
+    // Forgets the services' login sessions of every browser.
+    void deleteCookies();
+    // A deep copy of the last frame (null before the first one).
+    QImage frameImage() const;
+
+    void onPaint(const void* buffer, int width, int height) override;
+    void onLoadingStateChanged(bool loading) override;
+    QSize size() const override;
+    int frameRate() const override;
+    QString url() const override;
+    quintptr parentWindowHandle() const override;
+    bool isTransparent() const override;
+    void onUrlChanged(const QString& url) override;
+    void onTitleChanged(const QString& title) override;
+
+signals:
+    void urlChanged(const QString& url);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void updateNoBrowserText();
+
+    QString m_url;
+    mutable QMutex m_frameMutex;
+    QByteArray m_frameBytes;
+    QImage m_frame;
+    QLabel* m_noBrowserLabel = nullptr;
+};
