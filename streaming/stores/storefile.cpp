@@ -66,13 +66,33 @@ void StoreFile::remove(const QString& path)
 
 void StoreFile::forEachObject(const QString& directory, const std::function<void(const QJsonObject&)>& visit)
 {
-    QDirIterator it(directory, {QStringLiteral("*.%1").arg(jsonSuffix)},
-                    QDir::Files | QDir::NoSymLinks | QDir::NoDotAndDotDot);
+    // Same entries as the name filter "*.json" (case-insensitive wildcard), matched
+    // without a regular expression per file.
+    const QString suffix = QLatin1Char('.') + jsonSuffix;
+    QDirIterator it(directory, QDir::Files | QDir::NoSymLinks | QDir::NoDotAndDotDot);
+    // One buffer for the whole directory: no size query and no allocation per file.
+    QByteArray buffer(16384, Qt::Uninitialized);
     while (it.hasNext()) {
-        QFile file(it.next());
-        if (!file.open(QIODevice::ReadOnly))
+        it.next();
+        if (!it.fileName().endsWith(suffix, Qt::CaseInsensitive))
             continue;
-        const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
+        QFile file(it.filePath());
+        if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+            continue;
+        qint64 used = 0;
+        qint64 got = 0;
+        for (;;) {
+            if (buffer.size() - used < 4096)
+                buffer.resize(buffer.size() * 2);
+            got = file.read(buffer.data() + used, buffer.size() - used);
+            if (got <= 0)
+                break;
+            used += got;
+        }
+        if (got < 0)
+            continue;
+        const QJsonObject object =
+            QJsonDocument::fromJson(QByteArray::fromRawData(buffer.constData(), int(used))).object();
         if (!object.isEmpty())
             visit(object);
     }

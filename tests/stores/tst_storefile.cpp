@@ -37,6 +37,8 @@ private slots:
     void badEntriesAreSkipped_data();
     void badEntriesAreSkipped();
     void manyBadFilesAmongGoodOnes();
+    void suffixMatchesInAnyCase();
+    void largeFilesLoadWhole();
 };
 
 void TestStoreFile::badEntriesAreSkipped_data()
@@ -154,6 +156,40 @@ void TestStoreFile::manyBadFilesAmongGoodOnes()
     stores.streamingManager().reloadPresets();
     QCOMPARE(stores.codecManager().codecPresets().size(), 50);
     QCOMPARE(stores.streamingManager().serverInfos().size(), 50);
+}
+
+void TestStoreFile::suffixMatchesInAnyCase()
+{
+    TempStores stores;
+    stores.writeServerFile(QStringLiteral("lower.json"), goodServer);
+    stores.writeServerFile(QStringLiteral("UPPER.JSON"), goodServer);
+    stores.writeServerFile(QStringLiteral("json"), goodServer);
+    stores.writeServerFile(QStringLiteral("other.jsonx"), goodServer);
+    stores.writeServerFile(QStringLiteral("other.json~"), goodServer);
+    stores.writeServerFile(QStringLiteral(".hidden.json"), goodServer);
+    stores.streamingManager().reloadPresets();
+    QCOMPARE(stores.streamingManager().serverInfos().size(), 2);
+}
+
+void TestStoreFile::largeFilesLoadWhole()
+{
+    TempStores stores;
+    for (int size : {4095, 16384, 16385, 300000}) {
+        const QString title = QString(size, QLatin1Char('t'));
+        stores.writeServerFile(QStringLiteral("size %1.json").arg(size),
+                               R"({"Title":")" + title.toLatin1() + R"(","Port":1935})");
+    }
+    stores.writeServerFile(QStringLiteral("small.json"), goodServer);
+    stores.streamingManager().reloadPresets();
+    QList<int> sizes;
+    for (const ServerInfo& info : stores.streamingManager().serverInfos()) {
+        if (info.channel.title != QLatin1String("Good")) {
+            QCOMPARE(info.channel.port, 1935);
+            sizes << info.channel.title.size();
+        }
+    }
+    std::sort(sizes.begin(), sizes.end());
+    QCOMPARE(sizes, (QList<int>{4095, 16384, 16385, 300000}));
 }
 
 QTEST_GUILESS_MAIN(TestStoreFile)
