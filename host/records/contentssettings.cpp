@@ -1,6 +1,9 @@
 #include "contentssettings.h"
 
+#include <QDir>
+
 ContentsSettings ContentsSettings::underDirectory(const QString& dataDirectory)
 {
-    return ContentsSettings(dataDirectory + QStringLiteral("/codecs"), dataDirectory + QStringLiteral("/servers"));
+    const QDir dir(QDir::cleanPath(dataDirectory));
+    return ContentsSettings(dir.filePath(QStringLiteral("codecs")), dir.filePath(QStringLiteral("servers")));
 }

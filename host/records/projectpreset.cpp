@@ -9,13 +9,20 @@ ProjectPreset ProjectPreset::fromJson(const QJsonObject& object)
     p.m_processing.busAEnabled = processing.value(QStringLiteral("BusAEnabled")).toBool(p.m_processing.busAEnabled);
     p.m_processing.busBEnabled = processing.value(QStringLiteral("BusBEnabled")).toBool(p.m_processing.busBEnabled);
     const QJsonObject video = object.value(QStringLiteral("VideoOutput")).toObject();
-    p.m_videoOutput.width = video.value(QStringLiteral("Width")).toInt(p.m_videoOutput.width);
-    p.m_videoOutput.height = video.value(QStringLiteral("Height")).toInt(p.m_videoOutput.height);
-    p.m_videoOutput.frameRate = video.value(QStringLiteral("FrameRate")).toDouble(p.m_videoOutput.frameRate);
+    // Sizes and rates the engine cannot run keep the default rather than reaching a divisor.
+    const auto positiveInt = [](const QJsonValue& value, int fallback) {
+        const int v = value.toInt(fallback);
+        return v > 0 ? v : fallback;
+    };
+    p.m_videoOutput.width = positiveInt(video.value(QStringLiteral("Width")), p.m_videoOutput.width);
+    p.m_videoOutput.height = positiveInt(video.value(QStringLiteral("Height")), p.m_videoOutput.height);
+    const double rate = video.value(QStringLiteral("FrameRate")).toDouble(p.m_videoOutput.frameRate);
+    if (rate > 0.0 && rate <= 240.0)
+        p.m_videoOutput.frameRate = rate;
     p.m_videoOutput.interlaced = video.value(QStringLiteral("Interlaced")).toBool(p.m_videoOutput.interlaced);
     const QJsonObject audio = object.value(QStringLiteral("AudioOutput")).toObject();
-    p.m_audioOutput.sampleRate = audio.value(QStringLiteral("SampleRate")).toInt(p.m_audioOutput.sampleRate);
-    p.m_audioOutput.channels = audio.value(QStringLiteral("Channels")).toInt(p.m_audioOutput.channels);
+    p.m_audioOutput.sampleRate = positiveInt(audio.value(QStringLiteral("SampleRate")), p.m_audioOutput.sampleRate);
+    p.m_audioOutput.channels = positiveInt(audio.value(QStringLiteral("Channels")), p.m_audioOutput.channels);
     return p;
 }
 

@@ -36,7 +36,7 @@ public:
     AudioOutput& audioOutput() { return m_audioOutput; }
     const AudioOutput& audioOutput() const { return m_audioOutput; }
 
-    // Missing members keep their defaults.
+    // Missing, mistyped or unusable (zero, negative) members keep their defaults.
     static ProjectPreset fromJson(const QJsonObject& object);
     QJsonObject toJson() const;
 

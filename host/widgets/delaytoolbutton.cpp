@@ -1,6 +1,5 @@
 #include "delaytoolbutton.h"
 
-#include <QDateTime>
 #include <QMouseEvent>
 
 DelayToolButton::DelayToolButton(QWidget* parent) : QToolButton(parent)
@@ -9,12 +8,14 @@ DelayToolButton::DelayToolButton(QWidget* parent) : QToolButton(parent)
 
 void DelayToolButton::mouseReleaseEvent(QMouseEvent* event)
 {
-    const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    if (m_lastClick != 0 && now - m_lastClick < m_delay) {
+    // Only a release that completes a click counts; dragging off the button is no click.
+    const bool completesClick = event->button() == Qt::LeftButton && isDown() && hitButton(event->pos());
+    if (completesClick && m_lastClick.isValid() && m_lastClick.elapsed() < m_delay) {
         setDown(false);
         event->accept();
         return;
     }
-    m_lastClick = now;
+    if (completesClick)
+        m_lastClick.start();
     QToolButton::mouseReleaseEvent(event);
 }

@@ -2,6 +2,7 @@
 
 #include "host_export.h"
 
+#include <QElapsedTimer>
 #include <QToolButton>
 
 // The host's styled ToolButton.
@@ -20,5 +21,5 @@ protected:
 
 private:
     int m_delay = 500;
-    qint64 m_lastClick = 0;
+    QElapsedTimer m_lastClick; // monotonic: a clock change must not lock the button
 };

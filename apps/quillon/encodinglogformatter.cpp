@@ -1,0 +1,47 @@
+#include "encodinglogformatter.h"
+
+#include "codecmanager.h"
+#include "codecpreset.h"
+#include "filetag.h"
+
+#include <QUrl>
+
+QString EncodingLogFormatter::describe(int kind, const CodecPreset& preset, bool on)
+{
+    QString what;
+    switch (kind) {
+    case Streaming:
+        what = on ? tr("Start streaming") : tr("Stop streaming");
+        break;
+    case Recording:
+        what = on ? tr("Start recording") : tr("Stop recording");
+        break;
+    default:
+        what = on ? tr("Start output kind %1").arg(kind) : tr("Stop output kind %1").arg(kind);
+        break;
+    }
+    if (!preset.name().isEmpty())
+        what += QStringLiteral(" \"%1\"").arg(preset.name());
+
+    QString summary = CodecManager::namingFromPreset(&preset);
+    if (summary.isEmpty())
+        summary = tr("no codec");
+    const QString target = destination(kind, preset);
+    if (target.isEmpty())
+        return tr("%1: %2").arg(what, summary);
+    return tr("%1: %2 -> %3").arg(what, summary, target);
+}
+
+QString EncodingLogFormatter::destination(int kind, const CodecPreset& preset)
+{
+    if (kind == Recording)
+        return FileTag::fromCodecPreset(&preset, true);
+    if (kind == Streaming) {
+        // The stream key is a secret: the log shows the server only.
+        const QUrl url(preset.streaming().url);
+        if (preset.streaming().url.isEmpty())
+            return tr("(no URL)");
+        return url.isValid() ? url.toDisplayString(QUrl::RemoveUserInfo) : preset.streaming().url;
+    }
+    return QString();
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+class CodecPreset;
+
+// One log line for an output the engine was asked to start or stop.
+class EncodingLogFormatter
+{
+    Q_DECLARE_TR_FUNCTIONS(EncodingLogFormatter)
+
+public:
+    enum Kind { Streaming = 0, Recording = 1 };
+
+    // kind as the dialogs report it: 0 streaming, 1 recording.
+    static QString describe(int kind, const CodecPreset& preset, bool on);
+    // Where the output goes: the file name for a recording, the URL for a stream.
+    static QString destination(int kind, const CodecPreset& preset);
+};

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "codecpreset.h"
+#include "datadirectory.h"
+#include "licensemodel.h"
+#include "projectpreset.h"
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+class ActivityLog;
+class CodecManager;
+class FileOutputInterface;
+class StreamingManager;
+
+// Everything the host keeps for one data location, made before any dialog: the licence
+// and project files, both stores (the process instances while the session lives), and
+// the setup object every dialog reads and writes.
+class HostSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    static const QString setupFileName;
+    static const QString licenseFileName;
+    static const QString projectFileName;
+    static const QString seedMarkerFileName;
+
+    HostSession(const QString& dataDirectory, ActivityLog* log, QObject* parent = nullptr);
+    ~HostSession() override;
+
+    QString dataDirectory() const { return m_data.path(); }
+    ActivityLog* log() const { return m_log; }
+    const LicenseModel& license() const { return m_license; }
+    const ProjectPreset& project() const { return m_project; }
+    CodecManager& codecManager() { return *m_codecManager; }
+    StreamingManager& streamingManager() { return *m_streamingManager; }
+    FileOutputInterface& setup() { return *m_setup; }
+
+    // The recording preset the file naming dialog edits: the stored codec preset first by label,
+    // named "Program", written as mp4 with the recording default tag.
+    CodecPreset namingSample() const { return m_namingSample; }
+    // A short line for the status bar when the setup file could not be used; empty otherwise.
+    QString setupNotice() const { return m_setupNotice; }
+    void setNamingSample(const CodecPreset& preset) { m_namingSample = preset; }
+
+private:
+    void loadLicenseAndProject();
+    void logDevices() const;
+    void openStores();
+    void openSetup();
+    CodecPreset makeNamingSample() const;
+
+    DataDirectory m_data;
+    ActivityLog* m_log;
+    LicenseModel m_license;
+    ProjectPreset m_project;
+    std::unique_ptr<CodecManager> m_codecManager;
+    std::unique_ptr<StreamingManager> m_streamingManager;
+    std::unique_ptr<FileOutputInterface> m_setup;
+    CodecPreset m_namingSample;
+    QString m_setupNotice;
+};

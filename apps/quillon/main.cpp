@@ -1,0 +1,56 @@
+#include "activitylog.h"
+#include "appoptions.h"
+#include "hostsession.h"
+#include "mainwindow.h"
+#include "screenshotrenderer.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QSettings>
+#include <QTextStream>
+
+int main(int argc, char* argv[])
+{
+    // Screenshots need no display: render offscreen unless a platform was chosen.
+    if (AppOptions::wantsScreenshots(argc, argv) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+
+    QApplication app(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("Quillon"));
+    QApplication::setApplicationName(QStringLiteral("Quillon"));
+
+    const AppOptions options = AppOptions::parse(QApplication::arguments());
+    QTextStream err(stderr);
+    if (!options.isValid()) {
+        err << options.errorText() << '\n';
+        return 2;
+    }
+    if (options.helpRequested()) {
+        QTextStream(stdout) << options.helpText();
+        return 0;
+    }
+
+    // The library's "ql." settings live with the rest of the data, so a data folder is complete.
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, options.dataDirectory());
+
+    ActivityLog log;
+    // The stores exist before any dialog can be opened.
+    HostSession session(options.dataDirectory(), &log);
+    MainWindow window(session);
+
+    if (!options.screenshotDirectory().isEmpty()) {
+        ScreenshotRenderer renderer(window, session);
+        const bool ok = renderer.renderAll(options.screenshotDirectory());
+        for (const QString& file : renderer.written())
+            log.info(QCoreApplication::translate("main", "Screenshot %1").arg(QDir::toNativeSeparators(file)));
+        if (!ok) {
+            err << renderer.errorText() << '\n';
+            return 1;
+        }
+        return 0;
+    }
+
+    window.show();
+    return app.exec();
+}

@@ -1,0 +1,40 @@
+#include "outputdialogregistry.h"
+
+#include "activitylog.h"
+#include "filenamingdialog.h"
+#include "filetag.h"
+#include "hostsession.h"
+
+#include <memory>
+
+namespace {
+
+// Edits a copy of the session's sample recording preset, so Cancel leaves it as it was.
+QDialog* createFileNaming(QWidget* parent, HostSession& session)
+{
+    auto preset = std::make_shared<CodecPreset>(session.namingSample());
+    auto* dialog = new FileNamingDialog(parent, preset.get(), nullptr);
+    // The connection owns the copy, so it lives exactly as long as the dialog.
+    QObject::connect(dialog, &QDialog::accepted, dialog, [preset, &session] {
+        session.setNamingSample(*preset);
+        session.log()->info(OutputDialogRegistry::tr("File naming: \"%1\" gives %2")
+                                .arg(preset->local().fileTag, FileTag::fromCodecPreset(preset.get(), true)));
+    });
+    return dialog;
+}
+
+} // namespace
+
+const QList<OutputDialogRegistry::Entry>& OutputDialogRegistry::entries()
+{
+    static const QList<Entry> list{
+        {QStringLiteral("fileNaming"), QT_TR_NOOP("File Naming…"), QStringLiteral(":/resources/appicons/addfiles.png"),
+         false, createFileNaming, {}},
+    };
+    return list;
+}
+
+QString OutputDialogRegistry::label(const Entry& entry)
+{
+    return tr(entry.label);
+}
