@@ -28,6 +28,7 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QJsonArray>
+#include <QLabel>
 #include <QNetworkAccessManager>
 #include <QPushButton>
 #include <QScreen>
@@ -114,6 +115,16 @@ void rememberStreamKey(const QString& service, const QString& key)
     store.sync();
 }
 
+// The caption column of the panel and the rows below it share one width: the widest text.
+void alignCaptions(const QList<QLabel*>& labels)
+{
+    int width = 0;
+    for (const QLabel* label : labels)
+        width = qMax(width, label->sizeHint().width());
+    for (QLabel* label : labels)
+        label->setFixedWidth(width);
+}
+
 QString moviesFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::MoviesLocation) + QLatin1Char('/')
@@ -132,6 +143,10 @@ StreamingSetup::StreamingSetup(QWidget* parent, OutputInterface* host)
         close->setMinimumWidth(close->fontMetrics().horizontalAdvance(close->text()) + 20);
     }
     connect(ui->buttonBox, &QDialogButtonBox::clicked, this, &QDialog::close);
+    Ui::BaseWidget* panel = ui->baseWidget->form();
+    alignCaptions({panel->providerLabel, panel->pageLabel, panel->channelLabel, panel->serverLabel,
+                   panel->customLabel, panel->streamUrlLabel, panel->streamKeyLabel, panel->sharingLabel,
+                   ui->codecLabel, ui->videoSourceLabel, ui->audioSourceLabel, ui->presetNameLabel});
 
     settings = CodecTables::licenseModel();
     const QMap<int, QString>& containers = settings.containers();
