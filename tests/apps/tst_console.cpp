@@ -298,6 +298,12 @@ private slots:
             QVERIFY(log.lines().last().endsWith(QStringLiteral("-> srt://127.0.0.1:7001")));
             rowButton(form, 1)->click();
             QVERIFY(QuillonEngine::runningEncoders().isEmpty());
+
+            // Closing the dialog shows the new server in the console's list.
+            dialog->findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))->button(QDialogButtonBox::Close)->click();
+            QVERIFY(!dialog->isVisible());
+            QCOMPARE(texts(window.findChild<QListWidget*>(QStringLiteral("serverList"))),
+                     QStringList{QStringLiteral("Venue SRT - srt://127.0.0.1:7001")});
         }
         {
             ActivityLog log;
