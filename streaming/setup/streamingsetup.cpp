@@ -21,6 +21,7 @@
 #include "simpleprovider.h"
 #include "splashwidget.h"
 #include "streamingmanager.h"
+#include "streamingformlists.h"
 #include "streamingpresetjson.h"
 #include "ustream.h"
 #include "webdialog.h"
@@ -66,37 +67,12 @@ enum PanelId : int {
     StreamKeyId = 0x1000000,
 };
 
-enum SourceType { Program = 7, CleanProgram = 8, Preview = 10, BusA = 17, BusB = 18 };
-
-struct SplitInterval {
-    const char* text;
-    int seconds;
-};
-const SplitInterval splitIntervals[] = {
-    {QT_TRANSLATE_NOOP("StreamingSetup", "5 minutes"), 300},   {QT_TRANSLATE_NOOP("StreamingSetup", "15 minutes"), 900},
-    {QT_TRANSLATE_NOOP("StreamingSetup", "30 minutes"), 1800}, {QT_TRANSLATE_NOOP("StreamingSetup", "45 minutes"), 2700},
-    {QT_TRANSLATE_NOOP("StreamingSetup", "1 hour"), 3600},     {QT_TRANSLATE_NOOP("StreamingSetup", "2 hours"), 7200},
-    {QT_TRANSLATE_NOOP("StreamingSetup", "4 hours"), 14400},   {QT_TRANSLATE_NOOP("StreamingSetup", "8 hours"), 28800},
-    {QT_TRANSLATE_NOOP("StreamingSetup", "12 hours"), 43200},  {QT_TRANSLATE_NOOP("StreamingSetup", "24 hours"), 86400},
-};
-const int defaultSplitSeconds = 43200;
-
 const QColor busyColor(237, 110, 0);
 constexpr int bandwidthLinger = 1500;
 
 CodecPreset presetOf(const QListWidgetItem* item)
 {
     return item ? item->data(Qt::UserRole).value<CodecPreset>() : CodecPreset();
-}
-
-void selectSource(QComboBox* list, const SourceMap& map)
-{
-    for (int i = 0; i < list->count(); ++i) {
-        if (list->itemData(i).value<SourceMap>() == map) {
-            list->setCurrentIndex(i);
-            return;
-        }
-    }
 }
 
 // Services that log in with a user name and password rather than a web page.
@@ -163,9 +139,7 @@ StreamingSetup::StreamingSetup(QWidget* parent, OutputInterface* host)
     ui->saveGroup->setChecked(false);
     ui->folder->setText(moviesFolder());
     ui->splitTimeList->setEnabled(false);
-    for (const SplitInterval& interval : splitIntervals)
-        ui->splitTimeList->addItem(tr(interval.text), interval.seconds);
-    ui->splitTimeList->setCurrentIndex(ui->splitTimeList->findData(defaultSplitSeconds));
+    StreamingFormLists::fillSplitTimes(ui->splitTimeList);
     connect(ui->splitFile, &QCheckBox::toggled, ui->splitTimeList, &QWidget::setEnabled);
 
     connect(ui->browse, &QToolButton::clicked, this, &StreamingSetup::existingDirectory);
@@ -236,7 +210,8 @@ void StreamingSetup::initializeUi()
     Ui::BaseWidget* panel = ui->baseWidget->form();
     webDialog = new WebDialog(nullptr);
     webDialog->setModal(true);
-    fillSources();
+    StreamingFormLists::fillSources(ui->videoSourceList, ui->audioSourceList, settings,
+                                    QuillonEngine::projectPreset());
     ui->codecList->initialize(CodecTables::UsageStreaming, LicenseModel::usageStreaming,
                               settings.availableAudioMask());
     ui->codecList->setCodecMask(settings.availableVideoMask(), settings.availableAudioMask());
@@ -302,38 +277,6 @@ void StreamingSetup::mapPanelControls()
     connect(f->streamKey, &QLineEdit::textEdited, m_mapper, qOverload<>(&QSignalMapper::map));
     m_mapper->setMapping(f->streamKey, StreamKeyId);
     connect(m_mapper, &QSignalMapper::mappedInt, this, &StreamingSetup::signalMapper);
-}
-
-void StreamingSetup::fillSources()
-{
-    const auto add = [](QComboBox* list, const QString& text, const SourceMap& map) {
-        list->addItem(text, QVariant::fromValue(map));
-    };
-    const ProjectPreset project = QuillonEngine::projectPreset();
-    const int outputs = qBound(1, project.deviceInfo().programOutputs, 3);
-    const QList<QPair<QString, SourceMap>> programme = {
-        {tr("PGM"), {{Program, -1}}}, {tr("PGM(Clean)"), {{CleanProgram, -1}}}, {tr("PVW"), {{Preview, -1}}}};
-    for (int i = 0; i < outputs; ++i) {
-        add(ui->videoSourceList, programme.at(i).first, programme.at(i).second);
-        add(ui->audioSourceList, programme.at(i).first, programme.at(i).second);
-    }
-    // Buses carry sound only: they are offered where the audio is chosen.
-    if (!settings.audioBusEnabled())
-        return;
-    const bool a = project.processing().busAEnabled;
-    const bool b = project.processing().busBEnabled;
-    if (a)
-        add(ui->audioSourceList, tr("BUS A"), {{BusA, -1}});
-    if (b)
-        add(ui->audioSourceList, tr("BUS B"), {{BusB, -1}});
-    if (a && b)
-        add(ui->audioSourceList, tr("BUS A+B"), {{BusA, -1}, {BusB, -1}});
-    if (a)
-        add(ui->audioSourceList, tr("PGM+A"), {{Program, -1}, {BusA, -1}});
-    if (b)
-        add(ui->audioSourceList, tr("PGM+B"), {{Program, -1}, {BusB, -1}});
-    if (a && b)
-        add(ui->audioSourceList, tr("PGM+A+B"), {{Program, -1}, {BusA, -1}, {BusB, -1}});
 }
 
 Provider* StreamingSetup::provider() const
@@ -628,8 +571,8 @@ void StreamingSetup::applyRow(const CodecPreset& preset)
         f->serverSelect->setCurrentText(s.serverName);
     f->pageSelect->setCurrentText(s.pageName);
     f->channelSelect->setCurrentText(s.channelName);
-    selectSource(ui->videoSourceList, preset.videoSource());
-    selectSource(ui->audioSourceList, preset.audioSource());
+    StreamingFormLists::selectSource(ui->videoSourceList, preset.videoSource());
+    StreamingFormLists::selectSource(ui->audioSourceList, preset.audioSource());
     ui->codecList->selectPreset(preset);
 }
 
@@ -723,6 +666,8 @@ void StreamingSetup::addRow(const CodecPreset& preset)
     auto* item = new QListWidgetItem(ui->encoderList);
     item->setData(Qt::UserRole, QVariant::fromValue(preset));
     item->setData(Qt::UserRole + 1, preset.streaming().provider);
+    // The row's button asks the engine to start or stop the stream, as recording rows do, and
+    // then tells the host (kind 0): the host expects the library to drive the encoder.
     auto* row = new EncoderItem(nullptr, host, 0);
     row->setPreset(item, &preset);
     item->setSizeHint(row->size());
@@ -731,7 +676,7 @@ void StreamingSetup::addRow(const CodecPreset& preset)
 
 void StreamingSetup::videoSourceChange()
 {
-    selectSource(ui->audioSourceList, ui->videoSourceList->currentData().value<SourceMap>());
+    StreamingFormLists::selectSource(ui->audioSourceList, ui->videoSourceList->currentData().value<SourceMap>());
 }
 
 void StreamingSetup::existingDirectory()

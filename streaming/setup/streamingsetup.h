@@ -79,7 +79,6 @@ private:
     void updateChannelUi();
     Provider* provider() const;
 
-    void fillSources();
     void mapPanelControls();
     void authorizeProvider(Provider* provider);
     void reloadChannels(Provider* provider);
@@ -91,17 +90,17 @@ private:
     QString nameOrUntitled() const;
     void setBusy(bool busy);
 
-    Ui::StreamingSetup* ui;
-    SplashWidget* splash;
-    BandwidthWidget* bandwidth;
-    WebDialog* webDialog;
-    QNetworkAccessManager* networkManager;
+    Ui::StreamingSetup* ui = nullptr;
+    SplashWidget* splash = nullptr;
+    BandwidthWidget* bandwidth = nullptr;
+    WebDialog* webDialog = nullptr;
+    QNetworkAccessManager* networkManager = nullptr;
     QList<Provider*> providers;
     LicenseModel settings;
     QString lastFolder;
     QString lastFileTag;
     QString lastPresetName;
-    OutputInterface* host;
+    OutputInterface* host = nullptr;
 
     QSignalMapper* m_mapper = nullptr;
     QTimer* m_bandwidthWatch = nullptr;

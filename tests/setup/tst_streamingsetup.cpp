@@ -216,8 +216,16 @@ void TestStreamingSetup::rowsStartTheEngineAndTellTheHost()
     m_form->add();
     QCOMPARE(m_form->rows()->count(), 1);
 
+    // The engine is asked first, then the host is told.
+    QStringList order;
+    QObject context;
+    connect(&QuillonEngine::instance(), &QuillonEngine::encodingRequested, &context,
+            [&order](const CodecPreset&, bool on) { order.append(on ? "engine start" : "engine stop"); });
+    connect(m_host.get(), &MemoryOutputInterface::encodingChangedNotified, &context,
+            [&order](int, const CodecPreset&, bool on) { order.append(on ? "host start" : "host stop"); });
     QVERIFY(dialog.encoding(true));
     QVERIFY(dialog.isEncoding());
+    QCOMPARE(order, (QStringList{"engine start", "host start"}));
     const QList<QuillonEngine::EncodingCall> calls = QuillonEngine::encodingCalls();
     QCOMPARE(calls.size(), 1);
     QVERIFY(calls.first().on);
