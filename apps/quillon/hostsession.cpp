@@ -32,7 +32,6 @@ HostSession::HostSession(const QString& dataDirectory, ActivityLog* log, QObject
     m_namingSample = makeNamingSample();
 }
 
-// The stores go before the setup object; they hold no reference to it.
 HostSession::~HostSession() = default;
 
 void HostSession::loadLicenseAndProject()

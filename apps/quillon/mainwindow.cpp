@@ -77,10 +77,8 @@ MainWindow::MainWindow(HostSession& session, QWidget* parent)
     connect(ui->actionQuit, &QAction::triggered, this, &QWidget::close);
 }
 
-MainWindow::~MainWindow()
-{
-    // Kept dialogs are children and go with the window; nothing else to stop here.
-}
+// Kept dialogs are children and go with the window.
+MainWindow::~MainWindow() = default;
 
 void MainWindow::buildDialogButtons()
 {
