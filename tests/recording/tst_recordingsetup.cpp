@@ -111,6 +111,7 @@ private slots:
     void showRefreshesTheEncoderList();
     void browseTakesTheChosenFolder();
     void foreignItemDataReadsAsDefault();
+    void badStoredSettingsNeverCrash();
     void worksWithoutHost();
 
 private:
@@ -732,6 +733,23 @@ void TestRecordingSetup::foreignItemDataReadsAsDefault()
     rows()->item(0)->setData(Qt::UserRole, QStringLiteral("not a preset"));
     QCOMPARE(m_setup->codecPresets().size(), 1);
     QVERIFY(m_setup->codecPresets().first() == CodecPreset());
+}
+
+void TestRecordingSetup::badStoredSettingsNeverCrash()
+{
+    m_host->replaceSettings(QJsonObject{{QStringLiteral("RECORDING"), QStringLiteral("junk")}});
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("not an array")));
+    open();
+    QCOMPARE(rows()->count(), 0);
+
+    m_host->replaceSettings(QJsonObject{{QStringLiteral("RECORDING"), QJsonArray{42, storedRow(QStringLiteral("Good"))}}});
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("element 0 is not an object")));
+    open();
+    QCOMPARE(rows()->count(), 2);
+    QCOMPARE(m_setup->codecPresets().at(0).name(), QString());
+    QCOMPARE(m_setup->codecPresets().at(1).name(), QStringLiteral("Good"));
+    QVERIFY(m_setup->encoding(true)); // an empty row still starts and stops cleanly
+    QVERIFY(m_setup->encoding(false));
 }
 
 void TestRecordingSetup::worksWithoutHost()
