@@ -79,6 +79,7 @@ private slots:
     void acceptRemembersTheLastState();
     void rejectLeavesTheStateAlone();
     void unreadableStateIsIgnored();
+    void proResQualityStartsAtItsDefault();
 
 private:
     std::unique_ptr<CodecPresetDialog> open(int usage, CodecPreset* edited = nullptr, int outputMask = ~0,
@@ -567,6 +568,27 @@ void TestCodecPresetDialog::unreadableStateIsIgnored()
     QSettings().setValue(QStringLiteral("ql.codec.state"), QStringLiteral("{\"VideoCodec\":\"DV25\"}"));
     m_dialog = open(CodecTables::UsageStreaming);
     QCOMPARE(control<QComboBox>("videoCodecList")->currentText(), QStringLiteral("H.264"));
+}
+
+void TestCodecPresetDialog::proResQualityStartsAtItsDefault()
+{
+    // The 0 quality of a bit-rate codec is no ProRes choice, neither remembered nor edited.
+    m_dialog = open(CodecTables::UsageRecording);
+    clickOk();
+    m_dialog = open(CodecTables::UsageRecording);
+    auto* codecs = control<QComboBox>("videoCodecList");
+    codecs->setCurrentIndex(codecs->findText(QStringLiteral("Apple ProRes")));
+    QCOMPARE(control<QComboBox>("videoBitrateList")->currentText(), QStringLiteral("HQ"));
+
+    CodecPreset edited = preset(QStringLiteral("H.264"), 1920, 1080, 25, 0, 6000);
+    m_dialog = open(CodecTables::UsageRecording, &edited);
+    codecs = control<QComboBox>("videoCodecList");
+    codecs->setCurrentIndex(codecs->findText(QStringLiteral("Apple ProRes")));
+    QCOMPARE(control<QComboBox>("videoBitrateList")->currentText(), QStringLiteral("HQ"));
+    auto* quality = control<QComboBox>("videoBitrateList");
+    quality->setCurrentIndex(quality->findText(QStringLiteral("LT")));
+    QCOMPARE(m_dialog->codecPreset().videoCodec().quality, 1);
+    QCOMPARE(m_dialog->codecPreset().videoCodec().bitRate, 0);
 }
 
 QTEST_MAIN(TestCodecPresetDialog)
