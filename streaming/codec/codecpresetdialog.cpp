@@ -47,9 +47,6 @@ CodecPresetDialog::CodecPresetDialog(QWidget* parent, int usageType, CodecPreset
     ui->videoBitrateList->setInsertPolicy(QComboBox::NoInsert);
     if (preset) {
         m_preset = *preset;
-        // A quality index means something only to the codecs that pick one.
-        if (videoRule(m_preset.videoCodec().codec).rateControl != RateControl::Quality)
-            m_preset.videoCodec().quality = -1;
     } else {
         // A new preset starts from the last accepted choices, or from the defaults.
         CodecModel::VideoCodec& v = m_preset.videoCodec();
@@ -63,6 +60,9 @@ CodecPresetDialog::CodecPresetDialog(QWidget* parent, int usageType, CodecPreset
             m_wantedCustom = state.customSize;
         }
     }
+    // A quality index means something only to the codecs that pick one.
+    if (videoRule(m_preset.videoCodec().codec).rateControl != RateControl::Quality)
+        m_preset.videoCodec().quality = -1;
     if (state.valid) {
         ui->customWidth->setValue(state.custom.width);
         ui->customHeight->setValue(state.custom.height);

@@ -30,8 +30,7 @@ public:
     int count() const;
     void selectPreset(const CodecPreset& preset);
 
-    int usageType() const { return m_usageType; }
-    int outputMask() const { return m_outputMask; }
+    // The audio codecs the current output can carry (the codec dialog offers no others).
     int outputAudioMask() const { return m_outputAudioMask; }
 
 signals:

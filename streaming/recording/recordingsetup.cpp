@@ -13,10 +13,13 @@
 
 #include <QFileDialog>
 #include <QJsonArray>
+#include <QLoggingCategory>
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QUuid>
+
+Q_LOGGING_CATEGORY(lcRecording, "streaming.recording")
 
 namespace {
 
@@ -367,10 +370,16 @@ void RecordingSetup::loadSetting()
     ui->presetList->clear();
     if (!host)
         return;
-    const QJsonArray array = host->settings().value(QLatin1String(settingsKey)).toArray();
+    const QJsonValue value = host->settings().value(QLatin1String(settingsKey));
+    if (!value.isUndefined() && !value.isArray())
+        qCWarning(lcRecording) << "ignoring" << settingsKey << "that is not an array";
+    const QJsonArray array = value.toArray();
     const int limit = CodecTables::licenseModel().maxRecording();
-    for (int i = 0; i < array.size() && i < limit; ++i)
+    for (int i = 0; i < array.size() && i < limit; ++i) {
+        if (!array.at(i).isObject())
+            qCWarning(lcRecording) << settingsKey << "element" << i << "is not an object; it reads as an empty preset";
         addRow(RecordingPresetJson::fromJson(array.at(i).toObject()));
+    }
     if (ui->presetList->count() > 0)
         ui->presetList->setCurrentRow(0);
 }

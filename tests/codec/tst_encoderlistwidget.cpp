@@ -194,7 +194,6 @@ void TestEncoderListWidget::masksSelectTheCodecs()
         if (!isSeparator(presetList(), i))
             listed.append(presetList()->itemData(i).value<CodecPreset>().videoCodec().codec);
     QCOMPARE(listed, codecs);
-    QCOMPARE(m_list->usageType(), usage);
 }
 
 void TestEncoderListWidget::emptyListDisablesRemoveAndSettings()

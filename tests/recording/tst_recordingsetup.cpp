@@ -111,6 +111,7 @@ private slots:
     void showRefreshesTheEncoderList();
     void browseTakesTheChosenFolder();
     void foreignItemDataReadsAsDefault();
+    void badStoredSettingsNeverCrash();
     void worksWithoutHost();
 
 private:
@@ -456,25 +457,16 @@ void TestRecordingSetup::settingsRoundTrip()
     control<EncoderListWidget>("encoderList")->selectPreset(codecPreset(QStringLiteral("H.264"), 720, 3000));
     addPreset(QStringLiteral("Main"));
 
-    QCOMPARE(stored().size(), 1);
-    const QJsonObject o = stored().first().toObject();
-    QCOMPARE(o.size(), 28);
-    QCOMPARE(o.value(QLatin1String("VideoCodec")).toString(), QStringLiteral("H.264"));
-    QCOMPARE(o.value(QLatin1String("VideoWidth")).toInt(), 1280);
-    QCOMPARE(o.value(QLatin1String("VideoHeight")).toInt(), 720);
-    QCOMPARE(o.value(QLatin1String("VideoFrameRate")).toDouble(), 29.97);
-    QCOMPARE(o.value(QLatin1String("VideoBitRate")).toInt(), 3000);
-    QCOMPARE(o.value(QLatin1String("AudioEnabled")).toBool(), true);
-    QCOMPARE(o.value(QLatin1String("AudioBitPerSamples")).toInt(), 16);
-    QCOMPARE(o.value(QLatin1String("PresetName")).toString(), QStringLiteral("Main"));
-    QCOMPARE(o.value(QLatin1String("VideoSourceType")).toInt(), 10);
-    QCOMPARE(o.value(QLatin1String("VideoSourceIndex")).toInt(), -1);
-    QCOMPARE(o.value(QLatin1String("AudioSourceType")).toInt(), 17);
-    QCOMPARE(o.value(QLatin1String("ContainerName")).toString(), QStringLiteral("mp4"));
-    QCOMPARE(o.value(QLatin1String("Path")).toString(), QStringLiteral("/media/recordings"));
-    QCOMPARE(o.value(QLatin1String("FileTag")).toString(), QStringLiteral("%P %C"));
-    QCOMPARE(o.value(QLatin1String("SplitTime")).toInt(), 3600);
-    QCOMPARE(o.value(QLatin1String("MediaToBin")).toString(), QStringLiteral("CLIP 2"));
+    const QJsonObject expected{
+        {"VideoCodec", "H.264"},   {"VideoWidth", 1280},      {"VideoHeight", 720},        {"VideoFrameRate", 29.97},
+        {"VideoField", 0},         {"VideoKeyFrame", 2},      {"VideoBitRate", 3000},      {"VideoQuality", 0},
+        {"VideoPreset", ""},       {"VideoTune", ""},         {"VideoProfile", 0},         {"VideoBframes", 0},
+        {"AudioEnabled", true},    {"AudioCodec", "AAC"},     {"AudioChannels", 2},        {"AudioSampleRate", 48000},
+        {"AudioBitRate", 128},     {"AudioBitPerSamples", 16}, {"PresetName", "Main"},     {"VideoSourceType", 10},
+        {"VideoSourceIndex", -1},  {"AudioSourceType", 17},   {"AudioSourceIndex", -1},    {"ContainerName", "mp4"},
+        {"Path", "/media/recordings"}, {"FileTag", "%P %C"},  {"SplitTime", 3600},         {"MediaToBin", "CLIP 2"},
+    };
+    QCOMPARE(stored(), QJsonArray{expected});
 
     const CodecPreset added = m_setup->codecPresets().first();
     QVERIFY(added.local().enabled);
@@ -732,6 +724,23 @@ void TestRecordingSetup::foreignItemDataReadsAsDefault()
     rows()->item(0)->setData(Qt::UserRole, QStringLiteral("not a preset"));
     QCOMPARE(m_setup->codecPresets().size(), 1);
     QVERIFY(m_setup->codecPresets().first() == CodecPreset());
+}
+
+void TestRecordingSetup::badStoredSettingsNeverCrash()
+{
+    m_host->replaceSettings(QJsonObject{{QStringLiteral("RECORDING"), QStringLiteral("junk")}});
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("not an array")));
+    open();
+    QCOMPARE(rows()->count(), 0);
+
+    m_host->replaceSettings(QJsonObject{{QStringLiteral("RECORDING"), QJsonArray{42, storedRow(QStringLiteral("Good"))}}});
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("element 0 is not an object")));
+    open();
+    QCOMPARE(rows()->count(), 2);
+    QCOMPARE(m_setup->codecPresets().at(0).name(), QString());
+    QCOMPARE(m_setup->codecPresets().at(1).name(), QStringLiteral("Good"));
+    QVERIFY(m_setup->encoding(true)); // an empty row still starts and stops cleanly
+    QVERIFY(m_setup->encoding(false));
 }
 
 void TestRecordingSetup::worksWithoutHost()
