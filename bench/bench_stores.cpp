@@ -96,7 +96,6 @@ void readAndParse(benchmark::State& state, const QString& directory)
             state.SkipWithError("files missing");
         benchmark::DoNotOptimize(objects);
     }
-    state.SetItemsProcessed(state.iterations() * fileCount);
 }
 
 void BM_FloorCodecFiles(benchmark::State& state)
@@ -113,7 +112,6 @@ void BM_ReloadCodecPresets(benchmark::State& state)
     }
     if (manager.codecPresets().size() != fileCount)
         state.SkipWithError("presets missing");
-    state.SetItemsProcessed(state.iterations() * fileCount);
 }
 
 void BM_FloorServerFiles(benchmark::State& state)
@@ -130,7 +128,6 @@ void BM_ReloadServers(benchmark::State& state)
     }
     if (manager.serverInfos().size() != fileCount)
         state.SkipWithError("servers missing");
-    state.SetItemsProcessed(state.iterations() * fileCount);
 }
 
 // On a shared machine the fastest repetition is the least disturbed one.

@@ -42,11 +42,11 @@ bool readWhole(const QString& path, QByteArray& buffer, int& size)
             buffer.resize(buffer.size() * 2);
         }
         const ssize_t got = ::read(fd, buffer.data() + size, size_t(buffer.size() - size));
-        if (got > 0)
+        if (got > 0) {
             size += int(got);
-        else if (got < 0 && errno == EINTR)
+        } else if (got < 0 && errno == EINTR) {
             continue;
-        else {
+        } else {
             ok = got == 0;
             break;
         }
