@@ -90,7 +90,6 @@ private slots:
     void failedWriteKeepsThePreviousFile();
     void chatBufferKeepsTheNewest_data();
     void chatBufferKeepsTheNewest();
-    void licenceAndChatProvidersAreKept();
     void copiesLeaveTheInstanceAlone();
 };
 
@@ -316,29 +315,6 @@ void TestStreamingManager::chatBufferKeepsTheNewest()
     QCOMPARE(manager.chatDescs().size(), count);
     QCOMPARE(manager.chatDescs().first().message, chatLine(oldest).message);
     QCOMPARE(manager.chatDescs().last().message, chatLine(pushed).message);
-}
-
-void TestStreamingManager::licenceAndChatProvidersAreKept()
-{
-    LicenseModel license;
-    license.setMaxStreaming(1);
-    license.setMaxResolution(1920, 1080);
-    TempStores stores(license);
-    StreamingManager& manager = stores.streamingManager();
-    QCOMPARE(manager.licenseModel().maxStreaming(), 1);
-    QCOMPARE(manager.licenseModel().maxWidth(), 1920);
-
-    license.setMaxStreaming(3);
-    QCOMPARE(manager.licenseModel().maxStreaming(), 1); // a copy, not the caller's record
-    manager.setLicenseModel(license);
-    QCOMPARE(manager.licenseModel().maxStreaming(), 3);
-
-    QVERIFY(manager.chatProviders().isEmpty());
-    QList<ChatProvider*> providers{nullptr, nullptr};
-    manager.setChatProviders(providers);
-    QCOMPARE(manager.chatProviders().size(), 2);
-    manager.setChatProviders({});
-    QVERIFY(manager.chatProviders().isEmpty());
 }
 
 void TestStreamingManager::copiesLeaveTheInstanceAlone()
