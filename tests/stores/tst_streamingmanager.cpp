@@ -85,6 +85,7 @@ private slots:
     void sameTitleReplacesTheFile();
     void titlesNeverLeaveTheStore_data();
     void titlesNeverLeaveTheStore();
+    void linksInTheStoreAreNotWrittenThrough();
     void removeReturnsTrueAlways();
     void uncreatableDirectoryFailsWrite();
     void failedWriteKeepsThePreviousFile();
@@ -236,6 +237,31 @@ void TestStreamingManager::titlesNeverLeaveTheStore()
 
     QVERIFY(manager.remove(title));
     QVERIFY(entries(stores.serverDir()).isEmpty());
+}
+
+void TestStreamingManager::linksInTheStoreAreNotWrittenThrough()
+{
+    TempStores stores;
+    const QString outside = stores.root() + QStringLiteral("/elsewhere.txt");
+    QFile target(outside);
+    QVERIFY(target.open(QIODevice::WriteOnly));
+    target.write("not a server");
+    target.close();
+    QVERIFY(QFile::link(outside, stores.serverDir() + QStringLiteral("/Main.json")));
+
+    QVERIFY(stores.streamingManager().write(makeChannel(QStringLiteral("Main")), makeAccount(true)));
+    QCOMPARE(readAll(outside), QByteArray("not a server"));
+    const QFileInfo written(stores.serverDir() + QStringLiteral("/Main.json"));
+    QVERIFY(written.isFile() && !written.isSymLink());
+    QCOMPARE(modeBits(written.filePath()), 0600);
+    stores.streamingManager().reloadPresets();
+    QCOMPARE(stores.streamingManager().serverInfos().size(), 1);
+
+    // Removing goes no further than the store either.
+    QVERIFY(QFile::remove(written.filePath()));
+    QVERIFY(QFile::link(outside, written.filePath()));
+    QVERIFY(stores.streamingManager().remove(QStringLiteral("Main")));
+    QCOMPARE(readAll(outside), QByteArray("not a server"));
 }
 
 void TestStreamingManager::removeReturnsTrueAlways()
