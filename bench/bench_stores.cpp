@@ -11,6 +11,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <vector>
+
 namespace {
 
 constexpr int fileCount = 10000;
@@ -27,8 +30,6 @@ void writeFile(const QString& path, const QJsonObject& object)
 struct StoreFiles {
     QTemporaryDir dir;
     ContentsSettings settings;
-    QStringList codecPaths;
-    QStringList serverPaths;
 
     StoreFiles()
         : settings(ContentsSettings::underDirectory(dir.path()))
@@ -52,7 +53,6 @@ struct StoreFiles {
             const QString path = settings.codecPresetPath() + QLatin1Char('/')
                                  + CodecManager::namingFromPreset(&preset) + QStringLiteral(".json");
             writeFile(path, writer.jsonFromCodecPreset(preset));
-            codecPaths << path;
 
             const QString title = QStringLiteral("Server %1").arg(n);
             const QString serverPath = settings.serverPresetPath() + QLatin1Char('/') + title + QStringLiteral(".json");
@@ -71,7 +71,6 @@ struct StoreFiles {
                                       {QStringLiteral("Passphrase"), QString()},
                                       {QStringLiteral("StreamID"), QString()},
                                   });
-            serverPaths << serverPath;
         }
     }
 };
@@ -97,7 +96,6 @@ void readAndParse(benchmark::State& state, const QString& directory)
             state.SkipWithError("files missing");
         benchmark::DoNotOptimize(objects);
     }
-    state.SetItemsProcessed(state.iterations() * fileCount);
 }
 
 void BM_FloorCodecFiles(benchmark::State& state)
@@ -114,7 +112,6 @@ void BM_ReloadCodecPresets(benchmark::State& state)
     }
     if (manager.codecPresets().size() != fileCount)
         state.SkipWithError("presets missing");
-    state.SetItemsProcessed(state.iterations() * fileCount);
 }
 
 void BM_FloorServerFiles(benchmark::State& state)
@@ -131,14 +128,19 @@ void BM_ReloadServers(benchmark::State& state)
     }
     if (manager.serverInfos().size() != fileCount)
         state.SkipWithError("servers missing");
-    state.SetItemsProcessed(state.iterations() * fileCount);
+}
+
+// On a shared machine the fastest repetition is the least disturbed one.
+double fastest(const std::vector<double>& times)
+{
+    return *std::min_element(times.begin(), times.end());
 }
 
 } // namespace
 
-BENCHMARK(BM_FloorCodecFiles)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(BM_ReloadCodecPresets)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(BM_FloorServerFiles)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(BM_ReloadServers)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_FloorCodecFiles)->Unit(benchmark::kMillisecond)->UseRealTime()->ComputeStatistics("min", fastest);
+BENCHMARK(BM_ReloadCodecPresets)->Unit(benchmark::kMillisecond)->UseRealTime()->ComputeStatistics("min", fastest);
+BENCHMARK(BM_FloorServerFiles)->Unit(benchmark::kMillisecond)->UseRealTime()->ComputeStatistics("min", fastest);
+BENCHMARK(BM_ReloadServers)->Unit(benchmark::kMillisecond)->UseRealTime()->ComputeStatistics("min", fastest);
 
 BENCHMARK_MAIN();

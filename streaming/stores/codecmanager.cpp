@@ -31,6 +31,34 @@ const QHash<QString, QStringList>& fileKeyOrder()
     return order;
 }
 
+// Fills a default-constructed preset; reloads fill the list's own element in place.
+void readCodecPreset(const QJsonObject& object, CodecPreset& preset)
+{
+    const QJsonObject video = object.value(videoKey).toObject();
+    CodecModel::VideoCodec& v = preset.videoCodec();
+    v.codec = video.value(QLatin1String("Codec")).toString();
+    v.width = video.value(QLatin1String("Width")).toInt();
+    v.height = video.value(QLatin1String("Height")).toInt();
+    v.frameRate = video.value(QLatin1String("FrameRate")).toDouble();
+    v.field = video.value(QLatin1String("Field")).toInt();
+    v.keyFrame = video.value(QLatin1String("KeyFrame")).toInt();
+    v.bitRate = video.value(QLatin1String("BitRate")).toInt();
+    v.quality = video.value(QLatin1String("Quality")).toInt();
+    v.preset = video.value(QLatin1String("Preset")).toString();
+    v.tune = video.value(QLatin1String("Tune")).toString();
+    v.profile = video.value(QLatin1String("Profile")).toInt();
+    v.bframes = video.value(QLatin1String("Bframes")).toInt();
+
+    const QJsonObject audio = object.value(audioKey).toObject();
+    CodecModel::AudioCodec& a = preset.audioCodec();
+    a.enabled = audio.value(QLatin1String("Enabled")).toBool();
+    a.codec = audio.value(QLatin1String("Codec")).toString();
+    a.channels = audio.value(QLatin1String("Channels")).toInt();
+    a.sampleRate = audio.value(QLatin1String("SampleRate")).toInt();
+    a.bitRate = audio.value(QLatin1String("BitRate")).toInt();
+    a.bitPerSamples = audio.value(QLatin1String("BitPerSamples")).toInt();
+}
+
 } // namespace
 
 CodecManager::CodecManager(const ContentsSettings& settings)
@@ -65,7 +93,8 @@ void CodecManager::reloadPresets()
 {
     m_codecPresets.clear();
     StoreFile::forEachObject(presetDirectory(), [this](const QJsonObject& object) {
-        m_codecPresets.append(codecPresetFromJson(object));
+        m_codecPresets.append(CodecPreset());
+        readCodecPreset(object, m_codecPresets.last());
     });
 }
 
@@ -82,29 +111,7 @@ QList<CodecPreset> CodecManager::codecPresetFromName(const QString& name) const
 CodecPreset CodecManager::codecPresetFromJson(const QJsonObject& object) const
 {
     CodecPreset preset;
-    const QJsonObject video = object.value(videoKey).toObject();
-    CodecModel::VideoCodec& v = preset.videoCodec();
-    v.codec = video.value(QLatin1String("Codec")).toString();
-    v.width = video.value(QLatin1String("Width")).toInt();
-    v.height = video.value(QLatin1String("Height")).toInt();
-    v.frameRate = video.value(QLatin1String("FrameRate")).toDouble();
-    v.field = video.value(QLatin1String("Field")).toInt();
-    v.keyFrame = video.value(QLatin1String("KeyFrame")).toInt();
-    v.bitRate = video.value(QLatin1String("BitRate")).toInt();
-    v.quality = video.value(QLatin1String("Quality")).toInt();
-    v.preset = video.value(QLatin1String("Preset")).toString();
-    v.tune = video.value(QLatin1String("Tune")).toString();
-    v.profile = video.value(QLatin1String("Profile")).toInt();
-    v.bframes = video.value(QLatin1String("Bframes")).toInt();
-
-    const QJsonObject audio = object.value(audioKey).toObject();
-    CodecModel::AudioCodec& a = preset.audioCodec();
-    a.enabled = audio.value(QLatin1String("Enabled")).toBool();
-    a.codec = audio.value(QLatin1String("Codec")).toString();
-    a.channels = audio.value(QLatin1String("Channels")).toInt();
-    a.sampleRate = audio.value(QLatin1String("SampleRate")).toInt();
-    a.bitRate = audio.value(QLatin1String("BitRate")).toInt();
-    a.bitPerSamples = audio.value(QLatin1String("BitPerSamples")).toInt();
+    readCodecPreset(object, preset);
     return preset;
 }
 

@@ -7,11 +7,64 @@
 #include <QJsonDocument>
 #include <QSaveFile>
 
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
 Q_LOGGING_CATEGORY(lcStores, "streaming.stores")
 
 namespace {
 
 const QString jsonSuffix = QStringLiteral("json");
+// Far beyond any preset; keeps a stray huge file from exhausting memory.
+constexpr int maxFileSize = 16 * 1024 * 1024;
+
+// Reads a file into buffer[0, size). Unreadable and oversized files give false.
+bool readWhole(const QString& path, QByteArray& buffer, int& size)
+{
+    size = 0;
+#ifdef Q_OS_UNIX
+    // Plain system calls: a reload reads thousands of small files, and QFile adds
+    // a status query and allocations to each. O_NONBLOCK: a pipe put in the
+    // file's place after the listing must not block the host.
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (fd < 0)
+        return false;
+    bool ok = true;
+    for (;;) {
+        if (buffer.size() - size < 4096) {
+            if (buffer.size() >= maxFileSize) {
+                ok = false;
+                break;
+            }
+            buffer.resize(buffer.size() * 2);
+        }
+        const ssize_t got = ::read(fd, buffer.data() + size, size_t(buffer.size() - size));
+        if (got > 0) {
+            size += int(got);
+        } else if (got < 0 && errno == EINTR) {
+            continue;
+        } else {
+            ok = got == 0;
+            break;
+        }
+    }
+    ::close(fd);
+    return ok;
+#else
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || file.size() > maxFileSize)
+        return false;
+    const QByteArray contents = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return false;
+    buffer = contents;
+    size = contents.size();
+    return true;
+#endif
+}
 
 } // namespace
 
@@ -40,6 +93,10 @@ bool StoreFile::write(const QString& path, const QByteArray& contents, Access ac
     const QString directory = info.absolutePath();
     if (!QDir(directory).exists())
         QDir().mkpath(directory);
+    // QSaveFile writes through a symbolic link, to wherever it points. A link is
+    // never loaded as a preset anyway, so the preset replaces the link itself.
+    if (info.isSymLink())
+        QFile::remove(path);
 
     QSaveFile file(path);
     // Unbuffered: a buffered QSaveFile commits a short file when its final flush fails.
@@ -70,29 +127,16 @@ void StoreFile::forEachObject(const QString& directory, const std::function<void
     // without a regular expression per file.
     const QString suffix = QLatin1Char('.') + jsonSuffix;
     QDirIterator it(directory, QDir::Files | QDir::NoSymLinks | QDir::NoDotAndDotDot);
-    // One buffer for the whole directory: no size query and no allocation per file.
+    // One buffer for the whole directory: no allocation per file.
     QByteArray buffer(16384, Qt::Uninitialized);
     while (it.hasNext()) {
         it.next();
         if (!it.fileName().endsWith(suffix, Qt::CaseInsensitive))
             continue;
-        QFile file(it.filePath());
-        if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        int size = 0;
+        if (!readWhole(it.filePath(), buffer, size))
             continue;
-        qint64 used = 0;
-        qint64 got = 0;
-        for (;;) {
-            if (buffer.size() - used < 4096)
-                buffer.resize(buffer.size() * 2);
-            got = file.read(buffer.data() + used, buffer.size() - used);
-            if (got <= 0)
-                break;
-            used += got;
-        }
-        if (got < 0)
-            continue;
-        const QJsonObject object =
-            QJsonDocument::fromJson(QByteArray::fromRawData(buffer.constData(), int(used))).object();
+        const QJsonObject object = QJsonDocument::fromJson(QByteArray::fromRawData(buffer.constData(), size)).object();
         if (!object.isEmpty())
             visit(object);
     }

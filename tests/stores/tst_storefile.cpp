@@ -180,6 +180,8 @@ void TestStoreFile::largeFilesLoadWhole()
                                R"({"Title":")" + title.toLatin1() + R"(","Port":1935})");
     }
     stores.writeServerFile(QStringLiteral("small.json"), goodServer);
+    // Valid, but no preset is anywhere near this big: not loaded.
+    stores.writeServerFile(QStringLiteral("oversized.json"), goodServer + QByteArray(17 * 1024 * 1024, ' '));
     stores.streamingManager().reloadPresets();
     QList<int> sizes;
     for (const ServerInfo& info : stores.streamingManager().serverInfos()) {
@@ -190,6 +192,7 @@ void TestStoreFile::largeFilesLoadWhole()
     }
     std::sort(sizes.begin(), sizes.end());
     QCOMPARE(sizes, (QList<int>{4095, 16384, 16385, 300000}));
+    QCOMPARE(stores.streamingManager().serverInfos().size(), 5);
 }
 
 QTEST_GUILESS_MAIN(TestStoreFile)
