@@ -1,0 +1,401 @@
+#include "recordingsetup.h"
+#include "ui_recordingsetup.h"
+
+#include "codectables.h"
+#include "encoderitem.h"
+#include "filenamingdialog.h"
+#include "licensemodel.h"
+#include "messagebox.h"
+#include "outputinterface.h"
+#include "qmessageboxex.h"
+#include "quillonengine.h"
+#include "recordingpresetjson.h"
+
+#include <QFileDialog>
+#include <QJsonArray>
+#include <QLoggingCategory>
+#include <QPushButton>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QUuid>
+
+Q_LOGGING_CATEGORY(lcRecording, "streaming.recording")
+
+namespace {
+
+using SourceMap = QMap<int, int>;
+
+const char settingsKey[] = "RECORDING";
+const char fileTagKey[] = "ql.recording.filetag";
+
+enum SourceType { Program = 7, CleanProgram = 8, Preview = 10, BusA = 17, BusB = 18 };
+
+// What each container can hold: video codec bits and audio codec bits.
+struct ContainerRule {
+    int id;
+    int videoMask;  // used as it stands unless xorAvailable
+    bool xorAvailable; // the licence's available mask XOR videoMask
+    int audioMask;
+};
+const ContainerRule containerRules[] = {
+    {1, 0x407F, false, 1},
+    {2, 0x2580, true, 19},
+    {64, 0x3600, true, 19},
+    {128, 0x800, false, 16},
+};
+
+struct SplitInterval {
+    const char* text;
+    int seconds;
+};
+const SplitInterval splitIntervals[] = {
+    {QT_TRANSLATE_NOOP("RecordingSetup", "5 minutes"), 300},   {QT_TRANSLATE_NOOP("RecordingSetup", "15 minutes"), 900},
+    {QT_TRANSLATE_NOOP("RecordingSetup", "30 minutes"), 1800}, {QT_TRANSLATE_NOOP("RecordingSetup", "45 minutes"), 2700},
+    {QT_TRANSLATE_NOOP("RecordingSetup", "1 hour"), 3600},     {QT_TRANSLATE_NOOP("RecordingSetup", "2 hours"), 7200},
+    {QT_TRANSLATE_NOOP("RecordingSetup", "4 hours"), 14400},   {QT_TRANSLATE_NOOP("RecordingSetup", "8 hours"), 28800},
+    {QT_TRANSLATE_NOOP("RecordingSetup", "12 hours"), 43200},  {QT_TRANSLATE_NOOP("RecordingSetup", "24 hours"), 86400},
+};
+const int defaultSplitSeconds = 43200;
+
+const char* const mediaBins[] = {QT_TRANSLATE_NOOP("RecordingSetup", "None"), QT_TRANSLATE_NOOP("RecordingSetup", "CLIP 1"),
+                                 QT_TRANSLATE_NOOP("RecordingSetup", "CLIP 2")};
+
+CodecPreset presetOf(const QListWidgetItem* item)
+{
+    return item ? item->data(Qt::UserRole).value<CodecPreset>() : CodecPreset();
+}
+
+void selectSource(QComboBox* list, const SourceMap& map)
+{
+    for (int i = 0; i < list->count(); ++i) {
+        if (list->itemData(i).value<SourceMap>() == map) {
+            list->setCurrentIndex(i);
+            return;
+        }
+    }
+}
+
+} // namespace
+
+RecordingSetup::RecordingSetup(QWidget* parent, OutputInterface* host)
+    : QDialog(parent), ui(new Ui::RecordingSetup), host(host)
+{
+    ui->setupUi(this);
+    if (QPushButton* close = ui->buttonBox->button(QDialogButtonBox::Close)) {
+        close->setText(tr("Close"));
+        close->setMinimumWidth(close->fontMetrics().horizontalAdvance(close->text()) + 20);
+    }
+    const QString tag = QSettings().value(QLatin1String(fileTagKey)).toString();
+    if (!tag.isEmpty())
+        ui->fileTag->setText(tag);
+    initializeUi();
+}
+
+RecordingSetup::~RecordingSetup()
+{
+    delete ui;
+}
+
+void RecordingSetup::initializeUi()
+{
+    const LicenseModel& license = CodecTables::licenseModel();
+    const QMap<int, QString>& containers = license.containers();
+    for (auto it = containers.cbegin(); it != containers.cend(); ++it)
+        ui->containerList->addItem(it.value().toUpper(), it.key());
+
+    auto addSource = [](QComboBox* list, const QString& text, const SourceMap& map) {
+        list->addItem(text, QVariant::fromValue(map));
+    };
+    for (QComboBox* list : {ui->videoSourceList, ui->audioSourceList}) {
+        addSource(list, tr("PGM"), {{Program, -1}});
+        addSource(list, tr("PGM(Clean)"), {{CleanProgram, -1}});
+        addSource(list, tr("PVW"), {{Preview, -1}});
+    }
+    if (license.audioBusEnabled()) {
+        const ProjectPreset::Processing processing = QuillonEngine::projectPreset().processing();
+        const bool a = processing.busAEnabled;
+        const bool b = processing.busBEnabled;
+        if (a)
+            addSource(ui->audioSourceList, tr("BUS A"), {{BusA, -1}});
+        if (b)
+            addSource(ui->audioSourceList, tr("BUS B"), {{BusB, -1}});
+        if (a && b)
+            addSource(ui->audioSourceList, tr("BUS A+B"), {{BusA, -1}, {BusB, -1}});
+        if (a)
+            addSource(ui->audioSourceList, tr("PGM+A"), {{Program, -1}, {BusA, -1}});
+        if (b)
+            addSource(ui->audioSourceList, tr("PGM+B"), {{Program, -1}, {BusB, -1}});
+        if (a && b)
+            addSource(ui->audioSourceList, tr("PGM+A+B"), {{Program, -1}, {BusA, -1}, {BusB, -1}});
+    }
+
+    for (const SplitInterval& interval : splitIntervals)
+        ui->splitTimeList->addItem(tr(interval.text), interval.seconds);
+    ui->splitTimeList->setCurrentIndex(ui->splitTimeList->findData(defaultSplitSeconds));
+    ui->splitTimeList->setEnabled(false);
+    for (const char* bin : mediaBins)
+        ui->mediaToBin->addItem(tr(bin), QString::fromLatin1(bin));
+    ui->mediaToBin->setCurrentIndex(0);
+
+    ui->maxResolution->setText(tr("Max Resolution: %1x%2").arg(license.maxWidth()).arg(license.maxHeight()));
+    ui->maxRecording->setText(tr("Max Recording: %1").arg(license.maxRecording()));
+    ui->encoderList->initialize(CodecTables::UsageRecording, LicenseModel::usageRecording,
+                                license.availableAudioMask());
+
+    connect(ui->containerList, qOverload<int>(&QComboBox::currentIndexChanged), this, &RecordingSetup::updatePreset);
+    connect(ui->browse, &QToolButton::clicked, this, &RecordingSetup::existingDirectory);
+    connect(ui->namingEdit, &QToolButton::clicked, this, &RecordingSetup::showNamingEdit);
+    connect(ui->addPreset, &QToolButton::clicked, this, &RecordingSetup::updatePreset);
+    connect(ui->removePreset, &QToolButton::clicked, this, &RecordingSetup::updatePreset);
+    connect(ui->presetList, &QListWidget::currentRowChanged, this, &RecordingSetup::updatePreset);
+    connect(ui->presetList, &QListWidget::itemDoubleClicked, this, &RecordingSetup::updatePreset);
+    connect(ui->encoderList, &EncoderListWidget::presetChanged, this, &RecordingSetup::updatePreset);
+    connect(ui->videoSourceList, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &RecordingSetup::videoSourceChange);
+    connect(ui->splitFile, &QCheckBox::toggled, ui->splitTimeList, &QWidget::setEnabled);
+    connect(ui->buttonBox, &QDialogButtonBox::clicked, this, &QDialog::close);
+
+    ui->namingEdit->setToolTip(tr("Edit Naming"));
+    ui->addPreset->setToolTip(tr("Add Presets"));
+    ui->removePreset->setToolTip(tr("Remove Presets"));
+    ui->removePreset->setEnabled(false);
+    buildCodecs();
+}
+
+void RecordingSetup::buildCodecs()
+{
+    const int id = ui->containerList->currentData().toInt();
+    for (const ContainerRule& rule : containerRules) {
+        if (rule.id != id)
+            continue;
+        const int available = CodecTables::licenseModel().availableVideoMask();
+        ui->encoderList->setCodecMask(rule.xorAvailable ? available ^ rule.videoMask : rule.videoMask, rule.audioMask);
+        return;
+    }
+}
+
+void RecordingSetup::reloadPresets()
+{
+    ui->presetName->clear();
+    loadSetting();
+}
+
+QList<CodecPreset> RecordingSetup::codecPresets() const
+{
+    QList<CodecPreset> presets;
+    for (int row = 0; row < ui->presetList->count(); ++row)
+        presets.append(presetOf(ui->presetList->item(row)));
+    return presets;
+}
+
+bool RecordingSetup::encoding(bool on)
+{
+    if (on && ui->presetList->count() == 0)
+        return false;
+    for (int row = 0; row < ui->presetList->count(); ++row)
+        if (auto* item = qobject_cast<EncoderItem*>(ui->presetList->itemWidget(ui->presetList->item(row))))
+            item->setChecked(on);
+    return true;
+}
+
+bool RecordingSetup::isEncoding() const
+{
+    for (int row = 0; row < ui->presetList->count(); ++row) {
+        const auto* item = qobject_cast<EncoderItem*>(ui->presetList->itemWidget(ui->presetList->item(row)));
+        if (item && item->isChecked())
+            return true;
+    }
+    return false;
+}
+
+void RecordingSetup::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    ui->encoderList->refresh();
+    if (QListWidgetItem* item = ui->presetList->currentItem())
+        applyPreset(presetOf(item), false);
+}
+
+void RecordingSetup::hideEvent(QHideEvent* event)
+{
+    QDialog::hideEvent(event);
+}
+
+void RecordingSetup::updatePreset()
+{
+    const QObject* from = sender();
+    if (from == ui->containerList) {
+        buildCodecs();
+    } else if (from == ui->encoderList) {
+        ui->addPreset->setEnabled(ui->encoderList->count() > 0);
+    } else if (from == ui->presetList) {
+        QListWidgetItem* item = ui->presetList->currentItem();
+        if (!item) {
+            ui->removePreset->setEnabled(false);
+            return;
+        }
+        applyPreset(presetOf(item), true);
+        ui->removePreset->setEnabled(true);
+    } else if (from == ui->removePreset) {
+        removePresetClicked();
+    } else if (from == ui->addPreset) {
+        addPresetClicked();
+    }
+}
+
+void RecordingSetup::applyPreset(const CodecPreset& preset, bool withMediaBin)
+{
+    const CodecModel::Local& local = preset.local();
+    if (!local.path.isEmpty())
+        ui->folder->setText(local.path);
+    if (!local.fileTag.isEmpty())
+        ui->fileTag->setText(local.fileTag);
+    ui->containerList->setCurrentText(preset.container().name.toUpper());
+    ui->encoderList->selectPreset(preset);
+    selectSource(ui->videoSourceList, preset.videoSource());
+    selectSource(ui->audioSourceList, preset.audioSource());
+    ui->splitFile->setChecked(local.splitTime >= 1);
+    const int split = ui->splitTimeList->findData(local.splitTime);
+    if (split >= 0)
+        ui->splitTimeList->setCurrentIndex(split);
+    if (withMediaBin)
+        ui->mediaToBin->setCurrentIndex(qMax(0, ui->mediaToBin->findData(local.mediaToBin)));
+}
+
+void RecordingSetup::removePresetClicked()
+{
+    QListWidgetItem* item = ui->presetList->currentItem();
+    if (!item)
+        return;
+    const auto* row = qobject_cast<EncoderItem*>(ui->presetList->itemWidget(item));
+    if (row && row->isChecked()) {
+        MessageBox::warning(this, tr("Preset"), tr("Please try again after recording is finished."));
+        return;
+    }
+    if (QMessageBoxEx::question(this, tr("Preset"), tr("Are you sure you want to remove this item?"),
+                                QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
+        != QMessageBox::Yes)
+        return;
+    ui->presetList->removeItemWidget(item);
+    delete item;
+    saveSetting();
+}
+
+void RecordingSetup::addPresetClicked()
+{
+    if (ui->presetList->count() >= CodecTables::licenseModel().maxRecording()) {
+        MessageBox::warning(this, tr("Preset"), tr("Check the maximum number of recording."));
+        return;
+    }
+    // One pass over the rows: "Cam", "Cam 2", "Cam 3"...
+    const QString base = nameOrUntitled();
+    QString name = base;
+    int counter = 2;
+    for (int row = 0; row < ui->presetList->count(); ++row)
+        if (presetOf(ui->presetList->item(row)).name() == name)
+            name = QStringLiteral("%1 %2").arg(base).arg(counter++);
+
+    CodecPreset preset = presetFromControls(name);
+    preset.setId(QUuid::createUuid().toString());
+    addRow(preset);
+    ui->presetList->setCurrentRow(ui->presetList->count() - 1);
+    saveSetting();
+}
+
+QString RecordingSetup::nameOrUntitled() const
+{
+    const QString name = ui->presetName->text();
+    return name.isEmpty() ? tr("Untitled") : name;
+}
+
+CodecPreset RecordingSetup::presetFromControls(const QString& name) const
+{
+    CodecPreset preset = ui->encoderList->currentPreset();
+    preset.setName(name);
+    preset.videoSource() = ui->videoSourceList->currentData().value<SourceMap>();
+    preset.audioSource() = ui->audioSourceList->currentData().value<SourceMap>();
+    preset.container().name = ui->containerList->currentText().toLower();
+    preset.container().id = ui->containerList->currentData().toInt();
+    CodecModel::Local& local = preset.local();
+    local.enabled = true;
+    local.path = ui->folder->text();
+    local.fileTag = ui->fileTag->text();
+    if (ui->splitFile->isChecked())
+        local.splitTime = ui->splitTimeList->currentData().toInt();
+    local.mediaToBin = ui->mediaToBin->currentData().toString();
+    preset.streaming().enabled = false;
+    return preset;
+}
+
+void RecordingSetup::addRow(const CodecPreset& preset)
+{
+    auto* item = new QListWidgetItem(ui->presetList);
+    item->setData(Qt::UserRole, QVariant::fromValue(preset));
+    auto* row = new EncoderItem(nullptr, host, 1);
+    row->setPreset(item, &preset);
+    item->setSizeHint(row->size());
+    ui->presetList->setItemWidget(item, row);
+}
+
+void RecordingSetup::videoSourceChange()
+{
+    selectSource(ui->audioSourceList, ui->videoSourceList->currentData().value<SourceMap>());
+}
+
+void RecordingSetup::existingDirectory()
+{
+    const QString start = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation) + QLatin1Char('/')
+                        + QCoreApplication::applicationName();
+    const QString directory = QFileDialog::getExistingDirectory(
+        this, tr("Open Directory"), start, QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
+    if (!directory.isEmpty())
+        ui->folder->setText(directory);
+}
+
+void RecordingSetup::showNamingEdit()
+{
+    CodecPreset preset = presetFromControls(nameOrUntitled());
+    FileNamingDialog dialog(this, &preset, nullptr);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString tag = dialog.fileTag();
+    ui->fileTag->setText(tag);
+    QSettings settings;
+    settings.setValue(QLatin1String(fileTagKey), tag);
+    settings.sync();
+}
+
+void RecordingSetup::loadSetting()
+{
+    ui->presetList->clear();
+    if (!host)
+        return;
+    const QJsonValue value = host->settings().value(QLatin1String(settingsKey));
+    if (!value.isUndefined() && !value.isArray())
+        qCWarning(lcRecording) << "ignoring" << settingsKey << "that is not an array";
+    const QJsonArray array = value.toArray();
+    const int limit = CodecTables::licenseModel().maxRecording();
+    for (int i = 0; i < array.size() && i < limit; ++i) {
+        if (!array.at(i).isObject())
+            qCWarning(lcRecording) << settingsKey << "element" << i << "is not an object; it reads as an empty preset";
+        addRow(RecordingPresetJson::fromJson(array.at(i).toObject()));
+    }
+    if (ui->presetList->count() > 0)
+        ui->presetList->setCurrentRow(0);
+}
+
+void RecordingSetup::saveSetting()
+{
+    if (!host)
+        return;
+    QJsonArray array;
+    for (int row = 0; row < ui->presetList->count(); ++row)
+        array.append(RecordingPresetJson::toJson(presetOf(ui->presetList->item(row))));
+    host->setSettings(QLatin1String(settingsKey), array);
+}
+
+void RecordingSetup::removeSetting()
+{
+    if (host)
+        host->setSettings(QLatin1String(settingsKey), QJsonArray());
+}
