@@ -56,7 +56,7 @@ QString EncoderItem::videoSummary(const CodecPreset& preset)
         text += QStringLiteral(" %1%2").arg(v.height).arg(v.field ? QStringLiteral("i") : QStringLiteral("p"))
               + QString::number(v.frameRate, 'g', QLocale::FloatingPointShortest);
     else
-        text += QStringLiteral(" %1 AUTO").arg(v.height);
+        text += QStringLiteral(" %1 %2").arg(v.height).arg(tr("AUTO"));
     if (v.keyFrame > 0)
         text += QStringLiteral(" %1s").arg(v.keyFrame);
     if (v.bitRate > 0)

@@ -93,6 +93,10 @@ bool StoreFile::write(const QString& path, const QByteArray& contents, Access ac
     const QString directory = info.absolutePath();
     if (!QDir(directory).exists())
         QDir().mkpath(directory);
+    // QSaveFile writes through a symbolic link, to wherever it points. A link is
+    // never loaded as a preset anyway, so the preset replaces the link itself.
+    if (info.isSymLink())
+        QFile::remove(path);
 
     QSaveFile file(path);
     // Unbuffered: a buffered QSaveFile commits a short file when its final flush fails.

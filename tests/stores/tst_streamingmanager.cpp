@@ -82,12 +82,12 @@ private slots:
     void sameTitleReplacesTheFile();
     void titlesNeverLeaveTheStore_data();
     void titlesNeverLeaveTheStore();
+    void linksInTheStoreAreNotWrittenThrough();
     void removeReturnsTrueAlways();
     void uncreatableDirectoryFailsWrite();
     void failedWriteKeepsThePreviousFile();
     void chatBufferKeepsTheNewest_data();
     void chatBufferKeepsTheNewest();
-    void licenceAndChatProvidersAreKept();
     void copiesLeaveTheInstanceAlone();
 };
 
@@ -236,6 +236,31 @@ void TestStreamingManager::titlesNeverLeaveTheStore()
     QVERIFY(entries(stores.serverDir()).isEmpty());
 }
 
+void TestStreamingManager::linksInTheStoreAreNotWrittenThrough()
+{
+    TempStores stores;
+    const QString outside = stores.root() + QStringLiteral("/elsewhere.txt");
+    QFile target(outside);
+    QVERIFY(target.open(QIODevice::WriteOnly));
+    target.write("not a server");
+    target.close();
+    QVERIFY(QFile::link(outside, stores.serverDir() + QStringLiteral("/Main.json")));
+
+    QVERIFY(stores.streamingManager().write(makeChannel(QStringLiteral("Main")), makeAccount(true)));
+    QCOMPARE(readAll(outside), QByteArray("not a server"));
+    const QFileInfo written(stores.serverDir() + QStringLiteral("/Main.json"));
+    QVERIFY(written.isFile() && !written.isSymLink());
+    QCOMPARE(modeBits(written.filePath()), 0600);
+    stores.streamingManager().reloadPresets();
+    QCOMPARE(stores.streamingManager().serverInfos().size(), 1);
+
+    // Removing goes no further than the store either.
+    QVERIFY(QFile::remove(written.filePath()));
+    QVERIFY(QFile::link(outside, written.filePath()));
+    QVERIFY(stores.streamingManager().remove(QStringLiteral("Main")));
+    QCOMPARE(readAll(outside), QByteArray("not a server"));
+}
+
 void TestStreamingManager::removeReturnsTrueAlways()
 {
     TempStores stores;
@@ -313,29 +338,6 @@ void TestStreamingManager::chatBufferKeepsTheNewest()
     QCOMPARE(manager.chatDescs().size(), count);
     QCOMPARE(manager.chatDescs().first().message, chatLine(oldest).message);
     QCOMPARE(manager.chatDescs().last().message, chatLine(pushed).message);
-}
-
-void TestStreamingManager::licenceAndChatProvidersAreKept()
-{
-    LicenseModel license;
-    license.setMaxStreaming(1);
-    license.setMaxResolution(1920, 1080);
-    TempStores stores(license);
-    StreamingManager& manager = stores.streamingManager();
-    QCOMPARE(manager.licenseModel().maxStreaming(), 1);
-    QCOMPARE(manager.licenseModel().maxWidth(), 1920);
-
-    license.setMaxStreaming(3);
-    QCOMPARE(manager.licenseModel().maxStreaming(), 1); // a copy, not the caller's record
-    manager.setLicenseModel(license);
-    QCOMPARE(manager.licenseModel().maxStreaming(), 3);
-
-    QVERIFY(manager.chatProviders().isEmpty());
-    QList<ChatProvider*> providers{nullptr, nullptr};
-    manager.setChatProviders(providers);
-    QCOMPARE(manager.chatProviders().size(), 2);
-    manager.setChatProviders({});
-    QVERIFY(manager.chatProviders().isEmpty());
 }
 
 void TestStreamingManager::copiesLeaveTheInstanceAlone()
