@@ -1,4 +1,5 @@
 #include "streamingsetup.h"
+
 #include "ui_basewidget.h"
 #include "ui_streamingsetup.h"
 
@@ -11,6 +12,7 @@
 #include "duplicatestreamcheck.h"
 #include "encoderitem.h"
 #include "filenamingdialog.h"
+#include "filetag.h"
 #include "hitbox.h"
 #include "messagebox.h"
 #include "outputinterface.h"
@@ -20,8 +22,8 @@
 #include "servicetables.h"
 #include "simpleprovider.h"
 #include "splashwidget.h"
-#include "streamingmanager.h"
 #include "streamingformlists.h"
+#include "streamingmanager.h"
 #include "streamingpresetjson.h"
 #include "ustream.h"
 #include "webdialog.h"
@@ -101,12 +103,6 @@ void alignCaptions(const QList<QLabel*>& labels)
         label->setFixedWidth(width);
 }
 
-QString moviesFolder()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::MoviesLocation) + QLatin1Char('/')
-         + QCoreApplication::applicationName();
-}
-
 } // namespace
 
 StreamingSetup::StreamingSetup(QWidget* parent, OutputInterface* host)
@@ -137,7 +133,7 @@ StreamingSetup::StreamingSetup(QWidget* parent, OutputInterface* host)
     ui->maxStreamingSave->setText(streams);
 
     ui->saveGroup->setChecked(false);
-    ui->folder->setText(moviesFolder());
+    ui->folder->setText(FileTag::defaultFolder());
     ui->splitTimeList->setEnabled(false);
     StreamingFormLists::fillSplitTimes(ui->splitTimeList);
     connect(ui->splitFile, &QCheckBox::toggled, ui->splitTimeList, &QWidget::setEnabled);
@@ -682,7 +678,7 @@ void StreamingSetup::videoSourceChange()
 void StreamingSetup::existingDirectory()
 {
     const QString directory = QFileDialog::getExistingDirectory(
-        this, tr("Open Directory"), moviesFolder(), QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
+        this, tr("Open Directory"), FileTag::defaultFolder(), QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
     if (!directory.isEmpty())
         ui->folder->setText(directory);
 }
