@@ -33,232 +33,174 @@ class TestCodecManager : public QObject
     Q_OBJECT
 
 private slots:
-    void labelNamesTheFile_data();
-    void labelNamesTheFile();
-    void humanReadableSize_data();
-    void humanReadableSize();
-    void sampleRateTokHz_data();
-    void sampleRateTokHz();
-    void collidingLabelsShareOneFile();
-    void codecPresetFromName();
-    void fileMembersComeInFixedOrder();
-    void mistypedMembersReadAsDefaults_data();
-    void mistypedMembersReadAsDefaults();
-    void onlyJsonFilesOfAnExistingDirectoryLoad();
-    void copiesLeaveTheInstanceAlone();
-};
+    void labelNamesTheFile_data()
+    {
+        QTest::addColumn<CodecPreset>("preset");
+        QTest::addColumn<QString>("label");
 
-void TestCodecManager::labelNamesTheFile_data()
-{
-    QTest::addColumn<CodecPreset>("preset");
-    QTest::addColumn<QString>("label");
+        QTest::newRow("progressive, key frames, audio") << preset("H.264", 1080, 6000)
+                                                        << "H.264 1080p29.97 2s 6Mbps, AACStereo 48kHz 128kbps";
+        QTest::newRow("NTSC rate") << videoOnly("H.264", 1080, 30000.0 / 1001) << "H.264 1080p29.97";
+        CodecPreset mpeg2 = videoOnly("MPEG-2", 1080, 25, 1);
+        mpeg2.videoCodec().bitRate = 2500;
+        QTest::newRow("interlaced") << mpeg2 << "MPEG-2 1080i25 2.5Mbps";
+        QTest::newRow("automatic rate") << videoOnly("H.264", 1080, 0) << "H.264 1080 AUTO";
+        QTest::newRow("negative rate") << videoOnly("HEVC", 720, -5, 1) << "HEVC 720 AUTO";
+        QTest::newRow("ProRes above range") << videoOnly("Apple ProRes", 1080, 25, 0, 9) << "Apple ProRes 1080p25 XQ";
+        QTest::newRow("ProRes below range") << videoOnly("Apple ProRes", 1080, 25, 0, -1) << "Apple ProRes 1080p25 PROXY";
+        QTest::newRow("profile only for the exact name") << videoOnly("apple prores", 1080, 25, 0, 3) << "apple prores 1080p25";
+        const CodecPreset base = videoOnly("H.264", 1080, 50);
+        QTest::newRow("six channels are Mono") << withAudio(base, "AC3", 6, 48000, 384) << "H.264 1080p50, AC3Mono 48kHz 384kbps";
+        QTest::newRow("no audio rate") << withAudio(base, "PCM", 1, 44100, 0) << "H.264 1080p50, PCMMono 44.1kHz";
+        CodecPreset audioOnly = withAudio(base, "AAC", 2, 22050, 64);
+        audioOnly.videoCodec().enabled = false;
+        QTest::newRow("audio only") << audioOnly << ", AACStereo 22.05kHz 64kbps";
+        // Placeholders inside a codec name must not be filled by later arguments.
+        QTest::newRow("placeholder in name") << videoOnly("X%1%2", 480, 30) << "X%1%2 480p30";
+        CodecPreset full = withAudio(preset("HEVC", 2160, 35000, 59.94), "Opus", 2, 48000, 160);
+        full.videoCodec() = {true, "HEVC", 35000, 59.94, 0, 3840, 2160, 23, 1, 2, 3, "slow", "film \"grain\""};
+        full.audioCodec().bitPerSamples = 24;
+        QTest::newRow("every stored field") << full << "HEVC 2160p59.94 1s 35Mbps, OpusStereo 48kHz 160kbps";
+    }
 
-    QTest::newRow("progressive, key frames, audio") << preset("H.264", 1080, 6000)
-                                                    << "H.264 1080p29.97 2s 6Mbps, AACStereo 48kHz 128kbps";
-    QTest::newRow("NTSC rate") << videoOnly("H.264", 1080, 30000.0 / 1001) << "H.264 1080p29.97";
-    CodecPreset mpeg2 = videoOnly("MPEG-2", 1080, 25, 1);
-    mpeg2.videoCodec().bitRate = 2500;
-    QTest::newRow("interlaced") << mpeg2 << "MPEG-2 1080i25 2.5Mbps";
-    QTest::newRow("automatic rate") << videoOnly("H.264", 1080, 0) << "H.264 1080 AUTO";
-    QTest::newRow("negative rate") << videoOnly("HEVC", 720, -5, 1) << "HEVC 720 AUTO";
-    QTest::newRow("ProRes above range") << videoOnly("Apple ProRes", 1080, 25, 0, 9) << "Apple ProRes 1080p25 XQ";
-    QTest::newRow("ProRes below range") << videoOnly("Apple ProRes", 1080, 25, 0, -1) << "Apple ProRes 1080p25 PROXY";
-    QTest::newRow("profile only for the exact name") << videoOnly("apple prores", 1080, 25, 0, 3) << "apple prores 1080p25";
-    const CodecPreset base = videoOnly("H.264", 1080, 50);
-    QTest::newRow("six channels are Mono") << withAudio(base, "AC3", 6, 48000, 384) << "H.264 1080p50, AC3Mono 48kHz 384kbps";
-    QTest::newRow("no audio rate") << withAudio(base, "PCM", 1, 44100, 0) << "H.264 1080p50, PCMMono 44.1kHz";
-    CodecPreset audioOnly = withAudio(base, "AAC", 2, 22050, 64);
-    audioOnly.videoCodec().enabled = false;
-    QTest::newRow("audio only") << audioOnly << ", AACStereo 22.05kHz 64kbps";
-    // Placeholders inside a codec name must not be filled by later arguments.
-    QTest::newRow("placeholder in name") << videoOnly("X%1%2", 480, 30) << "X%1%2 480p30";
-    CodecPreset full = withAudio(preset("HEVC", 2160, 35000, 59.94), "Opus", 2, 48000, 160);
-    full.videoCodec() = {true, "HEVC", 35000, 59.94, 0, 3840, 2160, 23, 1, 2, 3, "slow", "film \"grain\""};
-    full.audioCodec().bitPerSamples = 24;
-    QTest::newRow("every stored field") << full << "HEVC 2160p59.94 1s 35Mbps, OpusStereo 48kHz 160kbps";
-}
+    void labelNamesTheFile()
+    {
+        QFETCH(CodecPreset, preset);
+        QFETCH(QString, label);
 
-void TestCodecManager::labelNamesTheFile()
-{
-    QFETCH(CodecPreset, preset);
-    QFETCH(QString, label);
+        QCOMPARE(CodecManager::namingFromPreset(&preset), label);
+        TempStores stores;
+        QVERIFY(stores.codecManager().write(preset));
+        QCOMPARE(entries(stores.codecDir()), QStringList{label + ".json"});
+        QVERIFY(stores.codecManager().codecPresets().isEmpty()); // only a reload reads files
 
-    QCOMPARE(CodecManager::namingFromPreset(&preset), label);
-    TempStores stores;
-    QVERIFY(stores.codecManager().write(preset));
-    QCOMPARE(entries(stores.codecDir()), QStringList{label + ".json"});
-    QVERIFY(stores.codecManager().codecPresets().isEmpty()); // only a reload reads files
+        // A new manager loads its directory at once; the video part's switch is not stored.
+        const CodecManager other(stores.settings());
+        CodecPreset expected = preset;
+        expected.videoCodec().enabled = true;
+        QCOMPARE(other.codecPresets().size(), 1);
+        QVERIFY(other.codecPresets().first() == expected);
+    }
 
-    // A new manager loads its directory at once; the video part's switch is not stored.
-    const CodecManager other(stores.settings());
-    CodecPreset expected = preset;
-    expected.videoCodec().enabled = true;
-    QCOMPARE(other.codecPresets().size(), 1);
-    QVERIFY(other.codecPresets().first() == expected);
-}
+    void unitTexts_data()
+    {
+        QTest::addColumn<bool>("kHz");
+        QTest::addColumn<qint64>("value");
+        QTest::addColumn<QString>("text");
+        const QList<QPair<qint64, QString>> rates{{1000, "1Mbps"},   {2500, "2.5Mbps"},     {999, "999kbps"},
+                                                  {1234, "1.2Mbps"}, {5000000, "5Gbps"},    {1500000, "1.5Gbps"},
+                                                  {0, "0kbps"},      {1000000000, "1000Gbps"}};
+        for (const auto& row : rates)
+            QTest::addRow("%lld kbps", row.first) << false << row.first << row.second;
+        const QList<QPair<qint64, QString>> sampleRates{{44100, "44.1"}, {48000, "48"},   {22050, "22.05"},
+                                                        {88200, "88.2"}, {11025, "11.0"}, {0, "0"}};
+        for (const auto& row : sampleRates)
+            QTest::addRow("%lld Hz", row.first) << true << row.first << row.second;
+    }
 
-void TestCodecManager::humanReadableSize_data()
-{
-    QTest::addColumn<qint64>("kbps");
-    QTest::addColumn<QString>("text");
-    const QList<QPair<qint64, QString>> rows{{1000, "1Mbps"},       {2500, "2.5Mbps"},     {999, "999kbps"},
-                                             {1234, "1.2Mbps"},     {5000000, "5Gbps"},    {1500000, "1.5Gbps"},
-                                             {1000000000, "1000Gbps"}, {0, "0kbps"}};
-    for (const auto& row : rows)
-        QTest::addRow("%lld", row.first) << row.first << row.second;
-}
+    void unitTexts()
+    {
+        QFETCH(bool, kHz);
+        QFETCH(qint64, value);
+        QFETCH(QString, text);
+        QCOMPARE(kHz ? CodecManager::sampleRateTokHz(int(value)) : CodecManager::humanReadableSize(value), text);
+    }
 
-void TestCodecManager::humanReadableSize()
-{
-    QFETCH(qint64, kbps);
-    QFETCH(QString, text);
-    QCOMPARE(CodecManager::humanReadableSize(kbps), text);
-}
+    void collidingLabelsShareOneFile()
+    {
+        CodecPreset first = videoOnly("H.264", 720, 30);
+        first.videoCodec().tune = "film";
+        CodecPreset second = first;
+        second.videoCodec().tune = "animation";
+        second.videoCodec().bframes = 4;
+        QCOMPARE(CodecManager::namingFromPreset(&first), CodecManager::namingFromPreset(&second));
 
-void TestCodecManager::sampleRateTokHz_data()
-{
-    QTest::addColumn<int>("hz");
-    QTest::addColumn<QString>("text");
-    const QList<QPair<int, QString>> rows{{44100, "44.1"}, {48000, "48"},   {22050, "22.05"},
-                                          {88200, "88.2"}, {11025, "11.0"}, {0, "0"}};
-    for (const auto& row : rows)
-        QTest::addRow("%d", row.first) << row.first << row.second;
-}
+        TempStores stores;
+        QVERIFY(stores.codecManager().write(first));
+        QVERIFY(stores.codecManager().write(second));
+        QCOMPARE(entries(stores.codecDir()).size(), 1);
+        stores.codecManager().reloadPresets();
+        QCOMPARE(stores.codecManager().codecPresets().size(), 1);
+        QVERIFY(stores.codecManager().codecPresets().first() == second);
+    }
 
-void TestCodecManager::sampleRateTokHz()
-{
-    QFETCH(int, hz);
-    QFETCH(QString, text);
-    QCOMPARE(CodecManager::sampleRateTokHz(hz), text);
-}
-
-void TestCodecManager::collidingLabelsShareOneFile()
-{
-    CodecPreset first = videoOnly("H.264", 720, 30);
-    first.videoCodec().tune = "film";
-    CodecPreset second = first;
-    second.videoCodec().tune = "animation";
-    second.videoCodec().bframes = 4;
-    QCOMPARE(CodecManager::namingFromPreset(&first), CodecManager::namingFromPreset(&second));
-
-    TempStores stores;
-    QVERIFY(stores.codecManager().write(first));
-    QVERIFY(stores.codecManager().write(second));
-    QCOMPARE(entries(stores.codecDir()).size(), 1);
-    stores.codecManager().reloadPresets();
-    QCOMPARE(stores.codecManager().codecPresets().size(), 1);
-    QVERIFY(stores.codecManager().codecPresets().first() == second);
-}
-
-void TestCodecManager::codecPresetFromName()
-{
-    TempStores stores;
-    for (const CodecPreset& p : {videoOnly("H.264", 720, 30), videoOnly("HEVC", 2160, 30), videoOnly("H.264", 1080, 30)})
-        QVERIFY(stores.codecManager().write(p));
-    stores.codecManager().reloadPresets();
-
-    auto heights = [&](const QString& name) {
-        QList<int> found;
-        for (const CodecPreset& p : stores.codecManager().codecPresetFromName(name))
-            found << p.videoCodec().height;
-        std::sort(found.begin(), found.end()); // list order is the directory's
-        return found;
-    };
-    QCOMPARE(heights("H.264"), (QList<int>{720, 1080}));
-    QCOMPARE(heights("HEVC"), QList<int>{2160});
-    QVERIFY(heights("h.264").isEmpty()); // case matters
-    QVERIFY(heights("H.264 NVENC").isEmpty());
-}
-
-void TestCodecManager::fileMembersComeInFixedOrder()
-{
-    TempStores stores;
-    QVERIFY(stores.codecManager().write(withAudio(videoOnly("H.264", 1080, 25), "AAC", 2, 48000, 128)));
-    const QByteArray text = readFile(stores.codecDir() + "/H.264 1080p25, AACStereo 48kHz 128kbps.json");
-
-    QStringList keys;
-    for (auto it = QRegularExpression("\"(\\w+)\":").globalMatch(QString::fromUtf8(text)); it.hasNext();)
-        keys << it.next().captured(1);
-    QCOMPARE(keys.join(' '), QStringLiteral("VideoCodec Codec Width Height FrameRate Field KeyFrame BitRate Quality "
-                                            "Preset Tune Profile Bframes AudioCodec Enabled Codec Channels SampleRate "
-                                            "BitRate BitPerSamples"));
-    QVERIFY(text.contains("\n    \"VideoCodec\": {\n        \"Codec\": \"H.264\",\n"));
-    const QJsonObject video = QJsonDocument::fromJson(text).object().value("VideoCodec").toObject();
-    QVERIFY(video.value("FrameRate").isDouble());
-    QVERIFY(video.value("Preset").isString());
-}
-
-void TestCodecManager::mistypedMembersReadAsDefaults_data()
-{
-    QTest::addColumn<QByteArray>("json");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<double>("frameRate");
-    QTest::addColumn<QString>("codec");
-    QTest::addColumn<bool>("audioEnabled");
-
-    QTest::newRow("well typed") << QByteArray(R"({"VideoCodec":{"Codec":"HEVC","Width":1280,"FrameRate":50},
-                                                 "AudioCodec":{"Enabled":true}})")
-                                << 1280 << 50.0 << "HEVC" << true;
-    QTest::newRow("strings for numbers and bool")
-        << QByteArray(R"({"VideoCodec":{"Codec":"HEVC","Width":"1280","FrameRate":"50"},"AudioCodec":{"Enabled":"true"}})")
-        << 0 << 0.0 << "HEVC" << false;
-    QTest::newRow("number for string, fraction for int")
-        << QByteArray(R"({"VideoCodec":{"Codec":264,"Width":1280.5,"FrameRate":29.97},"AudioCodec":{"Enabled":1}})")
-        << 0 << 29.97 << QString() << false;
-    QTest::newRow("parts that are not objects") << QByteArray(R"({"VideoCodec":[1280],"AudioCodec":"AAC"})") << 0 << 0.0
-                                                << QString() << false;
-}
-
-void TestCodecManager::mistypedMembersReadAsDefaults()
-{
-    QFETCH(QByteArray, json);
-    QFETCH(int, width);
-    QFETCH(double, frameRate);
-    QFETCH(QString, codec);
-    QFETCH(bool, audioEnabled);
-
-    TempStores stores;
-    stores.writeCodecFile("hand made.json", json);
-    stores.codecManager().reloadPresets();
-    QCOMPARE(stores.codecManager().codecPresets().size(), 1);
-    const CodecPreset& p = stores.codecManager().codecPresets().first();
-    QCOMPARE(p.videoCodec().width, width);
-    QCOMPARE(p.videoCodec().frameRate, frameRate);
-    QCOMPARE(p.videoCodec().codec, codec);
-    QCOMPARE(p.audioCodec().enabled, audioEnabled);
-}
-
-void TestCodecManager::onlyJsonFilesOfAnExistingDirectoryLoad()
-{
-    TempStores stores;
-    stores.writeCodecFile("notes.txt", R"({"VideoCodec":{"Codec":"H.264"}})");
-    stores.writeCodecFile("preset.json.bak", R"({"VideoCodec":{"Codec":"H.264"}})");
-    stores.codecManager().reloadPresets();
-    QVERIFY(stores.codecManager().codecPresets().isEmpty());
-
-    const CodecManager missing(ContentsSettings(stores.root() + "/nowhere", QString()));
-    QVERIFY(missing.codecPresets().isEmpty());
-    QVERIFY(!QFileInfo::exists(stores.root() + "/nowhere"));
-}
-
-void TestCodecManager::copiesLeaveTheInstanceAlone()
-{
-    QVERIFY(!CodecManager::getInstancePtr());
+    void fileMembersComeInFixedOrder()
     {
         TempStores stores;
-        QVERIFY(stores.codecManager().write(videoOnly("H.264", 1080, 25)));
-        stores.codecManager().reloadPresets();
-        CodecManager* const instance = &stores.codecManager();
-        QCOMPARE(&CodecManager::getInstance(), instance);
-        {
-            CodecManager copy(*instance);
-            QCOMPARE(copy.codecPresets().size(), 1);
-            copy = *instance;
-        }
-        QCOMPARE(CodecManager::getInstancePtr(), instance);
+        QVERIFY(stores.codecManager().write(withAudio(videoOnly("H.264", 1080, 25), "AAC", 2, 48000, 128)));
+        const QByteArray text = readFile(stores.codecDir() + "/H.264 1080p25, AACStereo 48kHz 128kbps.json");
+
+        QStringList keys;
+        for (auto it = QRegularExpression("\"(\\w+)\":").globalMatch(QString::fromUtf8(text)); it.hasNext();)
+            keys << it.next().captured(1);
+        QCOMPARE(keys.join(' '), QStringLiteral("VideoCodec Codec Width Height FrameRate Field KeyFrame BitRate Quality "
+                                                "Preset Tune Profile Bframes AudioCodec Enabled Codec Channels SampleRate "
+                                                "BitRate BitPerSamples"));
+        QVERIFY(text.contains("\n    \"VideoCodec\": {\n        \"Codec\": \"H.264\",\n"));
+        const QJsonObject video = QJsonDocument::fromJson(text).object().value("VideoCodec").toObject();
+        QVERIFY(video.value("FrameRate").isDouble());
+        QVERIFY(video.value("Preset").isString());
     }
-    QVERIFY(!CodecManager::getInstancePtr());
-}
+
+    void mistypedMembersReadAsDefaults_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<double>("frameRate");
+        QTest::addColumn<QString>("codec");
+        QTest::addColumn<bool>("audioEnabled");
+
+        QTest::newRow("well typed") << QByteArray(R"({"VideoCodec":{"Codec":"HEVC","Width":1280,"FrameRate":50},
+                                                     "AudioCodec":{"Enabled":true}})")
+                                    << 1280 << 50.0 << "HEVC" << true;
+        QTest::newRow("strings for numbers and bool")
+            << QByteArray(R"({"VideoCodec":{"Codec":"HEVC","Width":"1280","FrameRate":"50"},"AudioCodec":{"Enabled":"true"}})")
+            << 0 << 0.0 << "HEVC" << false;
+        QTest::newRow("number for string, fraction for int")
+            << QByteArray(R"({"VideoCodec":{"Codec":264,"Width":1280.5,"FrameRate":29.97},"AudioCodec":{"Enabled":1}})")
+            << 0 << 29.97 << QString() << false;
+        QTest::newRow("parts that are not objects") << QByteArray(R"({"VideoCodec":[1280],"AudioCodec":"AAC"})") << 0 << 0.0
+                                                    << QString() << false;
+    }
+
+    void mistypedMembersReadAsDefaults()
+    {
+        QFETCH(QByteArray, json);
+        QFETCH(int, width);
+        QFETCH(double, frameRate);
+        QFETCH(QString, codec);
+        QFETCH(bool, audioEnabled);
+
+        TempStores stores;
+        stores.writeCodecFile("hand made.json", json);
+        stores.codecManager().reloadPresets();
+        QCOMPARE(stores.codecManager().codecPresets().size(), 1);
+        const CodecPreset& p = stores.codecManager().codecPresets().first();
+        QCOMPARE(p.videoCodec().width, width);
+        QCOMPARE(p.videoCodec().frameRate, frameRate);
+        QCOMPARE(p.videoCodec().codec, codec);
+        QCOMPARE(p.audioCodec().enabled, audioEnabled);
+    }
+
+    void copiesLeaveTheInstanceAlone()
+    {
+        QVERIFY(!CodecManager::getInstancePtr());
+        {
+            TempStores stores;
+            QVERIFY(stores.codecManager().write(videoOnly("H.264", 1080, 25)));
+            stores.codecManager().reloadPresets();
+            CodecManager* const instance = &stores.codecManager();
+            QCOMPARE(&CodecManager::getInstance(), instance);
+            {
+                CodecManager copy(*instance);
+                QCOMPARE(copy.codecPresets().size(), 1);
+                copy = *instance;
+            }
+            QCOMPARE(CodecManager::getInstancePtr(), instance);
+        }
+        QVERIFY(!CodecManager::getInstancePtr());
+    }
+};
 
 QTEST_GUILESS_MAIN(TestCodecManager)
 #include "tst_codecmanager.moc"

@@ -61,104 +61,97 @@ class TestFileTag : public QObject
 private slots:
     void init() { FileTag::setClock([] { return QDateTime(QDate(2024, 3, 7), QTime(9, 5, 2)); }); }
     void cleanup() { FileTag::resetClock(); }
-    void codecPresetTags_data();
-    void codecPresetTags();
-    void snapshotTags_data();
-    void snapshotTags();
-    void oneExpansionReadsTheClockOnce();
-    void textsAreTranslated();
+    void codecPresetTags_data()
+    {
+        QTest::addColumn<CodecPreset>("preset");
+        QTest::addColumn<bool>("withExtension");
+        QTest::addColumn<QString>("name");
+
+        QTest::newRow("every token") << withSources(recording("%P %Y-%M-%D %h-%m-%s %C_%B_%R %S"), QString(), {0}) << true
+                                     << "Main 2024-03-07 09-05-02 H.264_6000Kbps_1920x1080 PGM.mp4";
+        QTest::newRow("without extension") << recording("%Y%M%D") << false << "20240307";
+        QTest::newRow("empty tag") << recording(QString()) << true << "Untitled.mp4";
+        QTest::newRow("doubled percent") << recording("%%Y") << false << "%2024";
+        QTest::newRow("trailing percent") << recording("take %") << false << "take %";
+        QTest::newRow("percents only") << recording("%%") << false << "%%";
+        QTest::newRow("unknown token") << recording("%X-%Y") << false << "%X-2024";
+        QTest::newRow("case matters") << recording("%y %M %m %S") << false << "%y 03 05 ";
+        QTest::newRow("token then text") << recording("%mmin") << false << "05min";
+
+        QTest::newRow("DV25 fixed rate and size") << recording("%B %R", "DV25", 5000) << false << "28770Kbps 720x480";
+        QTest::newRow("MJPEG in whole Mbps") << recording("%B", "MJPEG", 2500) << false << "2Mbps";
+        QTest::newRow("MJPEG below 1 Mbps") << recording("%B", "MJPEG", 999) << false << "0Mbps";
+        QTest::newRow("ProRes 5 is HQ") << recording("%B %R", "Apple ProRes", 0, 5) << false << "HQ 1920x1080";
+        QTest::newRow("ProRes -2 is PROXY") << recording("%B", "Apple ProRes", 0, -2) << false << "PROXY";
+
+        QTest::newRow("source name wins") << withSources(recording("[%S]"), "Cam 1", {0}) << false << "[Cam 1]";
+        QTest::newRow("clean programme") << withSources(recording("[%S]"), QString(), {1}) << false << "[PGM CLEAN]";
+        QTest::newRow("lowest key counts") << withSources(recording("[%S]"), QString(), {2, 1}) << false << "[PGM CLEAN]";
+        QTest::newRow("other source") << withSources(recording("[%S]"), QString(), {5}) << false << "[]";
+    }
+
+    void codecPresetTags()
+    {
+        QFETCH(CodecPreset, preset);
+        QFETCH(bool, withExtension);
+        QFETCH(QString, name);
+        QCOMPARE(FileTag::fromCodecPreset(&preset, withExtension), name);
+    }
+
+    void snapshotTags_data()
+    {
+        QTest::addColumn<Snapshot>("shot");
+        QTest::addColumn<bool>("withExtension");
+        QTest::addColumn<QString>("name");
+
+        QTest::newRow("grab default") << grab(0, "%P %Y-%M-%D %h-%m-%s %S") << true
+                                      << "Grab 2024-03-07 09-05-02 PROGRAM.png";
+        QTest::newRow("codec tokens untouched") << grab(0, "%C_%B_%R") << true << "%C_%B_%R.png";
+        QTest::newRow("preview") << grab(2, "%S") << false << "PREVIEW";
+        QTest::newRow("clean preview") << grab(3, "%S") << false << "CLEAN PREVIEW";
+        QTest::newRow("unknown source") << grab(4, "x%Sx") << false << "xx";
+        QTest::newRow("empty tag") << grab(0, QString()) << true << "Untitled.png";
+    }
+
+    void snapshotTags()
+    {
+        QFETCH(Snapshot, shot);
+        QFETCH(bool, withExtension);
+        QFETCH(QString, name);
+        QCOMPARE(FileTag::fromSnapshot(shot, withExtension), name);
+    }
+
+    void oneExpansionReadsTheClockOnce()
+    {
+        int reads = 0;
+        QDateTime instant(QDate(2024, 12, 31), QTime(23, 59, 59));
+        FileTag::setClock([&] {
+            ++reads;
+            const QDateTime now = instant;
+            instant = instant.addSecs(1);
+            return now;
+        });
+
+        // A clock read per token would mix two years here.
+        const CodecPreset preset = recording("%Y-%M-%D %h:%m:%s %Y");
+        QCOMPARE(FileTag::fromCodecPreset(&preset, false), QStringLiteral("2024-12-31 23:59:59 2024"));
+        QCOMPARE(FileTag::fromSnapshot(grab(0, "%Y %s %Y"), false), QStringLiteral("2025 00 2025"));
+        QCOMPARE(reads, 2);
+    }
+
+    void textsAreTranslated()
+    {
+        MarkingTranslator translator;
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
+
+        const CodecPreset untitled = recording(QString());
+        QCOMPARE(FileTag::fromCodecPreset(&untitled, true), QStringLiteral("<Untitled>.mp4"));
+        const CodecPreset programme = withSources(recording("%S"), QString(), {1});
+        QCOMPARE(FileTag::fromCodecPreset(&programme, false), QStringLiteral("<PGM CLEAN>"));
+        QCOMPARE(FileTag::fromSnapshot(grab(3, "%S"), false), QStringLiteral("<CLEAN PREVIEW>"));
+    }
 };
-
-void TestFileTag::codecPresetTags_data()
-{
-    QTest::addColumn<CodecPreset>("preset");
-    QTest::addColumn<bool>("withExtension");
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("every token") << withSources(recording("%P %Y-%M-%D %h-%m-%s %C_%B_%R %S"), QString(), {0}) << true
-                                 << "Main 2024-03-07 09-05-02 H.264_6000Kbps_1920x1080 PGM.mp4";
-    QTest::newRow("without extension") << recording("%Y%M%D") << false << "20240307";
-    QTest::newRow("empty tag") << recording(QString()) << true << "Untitled.mp4";
-    QTest::newRow("doubled percent") << recording("%%Y") << false << "%2024";
-    QTest::newRow("trailing percent") << recording("take %") << false << "take %";
-    QTest::newRow("percents only") << recording("%%") << false << "%%";
-    QTest::newRow("unknown token") << recording("%X-%Y") << false << "%X-2024";
-    QTest::newRow("case matters") << recording("%y %M %m %S") << false << "%y 03 05 ";
-    QTest::newRow("token then text") << recording("%mmin") << false << "05min";
-
-    QTest::newRow("DV25 fixed rate and size") << recording("%B %R", "DV25", 5000) << false << "28770Kbps 720x480";
-    QTest::newRow("MJPEG in whole Mbps") << recording("%B", "MJPEG", 2500) << false << "2Mbps";
-    QTest::newRow("MJPEG below 1 Mbps") << recording("%B", "MJPEG", 999) << false << "0Mbps";
-    QTest::newRow("ProRes 5 is HQ") << recording("%B %R", "Apple ProRes", 0, 5) << false << "HQ 1920x1080";
-    QTest::newRow("ProRes -2 is PROXY") << recording("%B", "Apple ProRes", 0, -2) << false << "PROXY";
-
-    QTest::newRow("source name wins") << withSources(recording("[%S]"), "Cam 1", {0}) << false << "[Cam 1]";
-    QTest::newRow("clean programme") << withSources(recording("[%S]"), QString(), {1}) << false << "[PGM CLEAN]";
-    QTest::newRow("lowest key counts") << withSources(recording("[%S]"), QString(), {2, 1}) << false << "[PGM CLEAN]";
-    QTest::newRow("other source") << withSources(recording("[%S]"), QString(), {5}) << false << "[]";
-}
-
-void TestFileTag::codecPresetTags()
-{
-    QFETCH(CodecPreset, preset);
-    QFETCH(bool, withExtension);
-    QFETCH(QString, name);
-    QCOMPARE(FileTag::fromCodecPreset(&preset, withExtension), name);
-}
-
-void TestFileTag::snapshotTags_data()
-{
-    QTest::addColumn<Snapshot>("shot");
-    QTest::addColumn<bool>("withExtension");
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("grab default") << grab(0, "%P %Y-%M-%D %h-%m-%s %S") << true
-                                  << "Grab 2024-03-07 09-05-02 PROGRAM.png";
-    QTest::newRow("codec tokens untouched") << grab(0, "%C_%B_%R") << true << "%C_%B_%R.png";
-    QTest::newRow("preview") << grab(2, "%S") << false << "PREVIEW";
-    QTest::newRow("clean preview") << grab(3, "%S") << false << "CLEAN PREVIEW";
-    QTest::newRow("unknown source") << grab(4, "x%Sx") << false << "xx";
-    QTest::newRow("empty tag") << grab(0, QString()) << true << "Untitled.png";
-}
-
-void TestFileTag::snapshotTags()
-{
-    QFETCH(Snapshot, shot);
-    QFETCH(bool, withExtension);
-    QFETCH(QString, name);
-    QCOMPARE(FileTag::fromSnapshot(shot, withExtension), name);
-}
-
-void TestFileTag::oneExpansionReadsTheClockOnce()
-{
-    int reads = 0;
-    QDateTime instant(QDate(2024, 12, 31), QTime(23, 59, 59));
-    FileTag::setClock([&] {
-        ++reads;
-        const QDateTime now = instant;
-        instant = instant.addSecs(1);
-        return now;
-    });
-
-    // A clock read per token would mix two years here.
-    const CodecPreset preset = recording("%Y-%M-%D %h:%m:%s %Y");
-    QCOMPARE(FileTag::fromCodecPreset(&preset, false), QStringLiteral("2024-12-31 23:59:59 2024"));
-    QCOMPARE(FileTag::fromSnapshot(grab(0, "%Y %s %Y"), false), QStringLiteral("2025 00 2025"));
-    QCOMPARE(reads, 2);
-}
-
-void TestFileTag::textsAreTranslated()
-{
-    MarkingTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
-
-    const CodecPreset untitled = recording(QString());
-    QCOMPARE(FileTag::fromCodecPreset(&untitled, true), QStringLiteral("<Untitled>.mp4"));
-    const CodecPreset programme = withSources(recording("%S"), QString(), {1});
-    QCOMPARE(FileTag::fromCodecPreset(&programme, false), QStringLiteral("<PGM CLEAN>"));
-    QCOMPARE(FileTag::fromSnapshot(grab(3, "%S"), false), QStringLiteral("<CLEAN PREVIEW>"));
-}
 
 QTEST_GUILESS_MAIN(TestFileTag)
 #include "tst_filetag.moc"
