@@ -154,20 +154,6 @@ private slots:
                  QStringList{on ? "Program - Apple ProRes 1080i59.94 HQ" : "Nothing running"});
     }
 
-    void runningListFollowsTheEngine()
-    {
-        Console c;
-        CodecPreset a = recording();
-        CodecPreset b = recording();
-        b.setId("rec-2");
-        b.setName("Backup");
-        QuillonEngine::encoding(&a, true);
-        QuillonEngine::encoding(&b, true);
-        QCOMPARE(c.list("runningList")->count(), 2);
-        QuillonEngine::encoding(&a, false);
-        QCOMPARE(texts(c.list("runningList")), QStringList{"Backup - Apple ProRes 1080i59.94 HQ"});
-    }
-
     void setupIsSavedAndStoresReloaded()
     {
         Console c;

@@ -72,7 +72,6 @@ private slots:
         QTest::newRow("streaming, mastering only") << streaming << 0x1000 << allAudio << QStringList()
                                                    << QStringList{"AAC", "MP3", "Opus", "AC3", "PCM"};
     }
-
     void masksChooseTheCodecs()
     {
         QFETCH(int, usage);
@@ -109,7 +108,6 @@ private slots:
         QTest::newRow("xdcam") << "XDCAM HD" << "" << QStringList{"50000", "35000"} << "50000" << false << true << false;
         QTest::newRow("mjpeg") << "MJPEG" << "" << QStringList() << "40000" << true << true << false;
     }
-
     void codecDecidesPageAndRateControl()
     {
         QFETCH(QString, codec);
@@ -162,7 +160,6 @@ private slots:
                                << QStringList{"AUTO", "23.98p", "25p", "29.97p", "50p", "59.94p", "50i", "59.94i"};
         QTest::newRow("iso prores") << int(CodecTables::UsageIso) << "Apple ProRes" << "FHD (1920x1080)" << fields;
     }
-
     void frameRatesFollowCodecUsageAndSize()
     {
         QFETCH(int, usage);
@@ -239,13 +236,7 @@ private slots:
         custom.videoCodec().keyFrame = 10;
         custom.audioCodec().enabled = false;
         QTest::newRow("custom size, typed rate") << custom << recording;
-
-        CodecPreset amf = preset("H.264 AMF", 720, 3000, 0);
-        amf.videoCodec().preset = "Quality";
-        amf.audioCodec() = {true, "AC3", 44100, 224, 16, 2};
-        QTest::newRow("amf auto rate") << amf << recording;
     }
-
     void editKeepsEveryField()
     {
         QFETCH(CodecPreset, edited);
@@ -382,13 +373,7 @@ private slots:
 
     void proResQualityStartsAtItsDefault()
     {
-        // The 0 quality of a bit-rate codec is no ProRes choice, neither remembered nor edited.
-        open(recording);
-        button(QDialogButtonBox::Ok)->click();
-        open(recording);
-        QVERIFY(choose(control("videoCodecList"), "Apple ProRes"));
-        QCOMPARE(control("videoBitrateList")->currentText(), QStringLiteral("HQ"));
-
+        // The 0 quality of a bit-rate codec is no ProRes choice.
         CodecPreset edited = preset("H.264", 1080, 6000, 25);
         open(recording, &edited);
         QVERIFY(choose(control("videoCodecList"), "Apple ProRes"));

@@ -97,7 +97,6 @@ private slots:
         QTest::newRow("recording, flv") << 1 << recording << 0x407F << QStringList{"H.264", "H.264 NVENC"};
         QTest::newRow("recording, no codec bit") << 1 << recording << 0 << QStringList();
     }
-
     void masksSelectTheCodecs()
     {
         QFETCH(int, usage);
@@ -192,7 +191,6 @@ private slots:
         QTest::newRow("yes") << int(QMessageBox::Yes);
         QTest::newRow("no") << int(QMessageBox::No);
     }
-
     void removeAsksFirst()
     {
         QFETCH(int, answer);

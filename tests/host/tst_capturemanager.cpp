@@ -132,10 +132,7 @@ private slots:
         QVERIFY(!DisplayMode::fromName("2160p29.97").fitsWithin(1920, 1080));
         QVERIFY(!DisplayMode().fitsWithin(1920, 1080));
 
-        QStringList formats = NdiOutput::supportFormats();
-        QVERIFY(formats.contains("1080i59.94") && formats.contains("2160p29.97"));
-        QCOMPARE(formats.removeDuplicates(), 0);
-        for (const QString& format : formats)
+        for (const QString& format : NdiOutput::supportFormats())
             QVERIFY2(DisplayMode::fromName(format).isValid(), qPrintable(format));
         QVERIFY(NdiOutput::supportsFormat("720p50"));
         QVERIFY(!NdiOutput::supportsFormat("576i50"));

@@ -91,6 +91,7 @@ private slots:
         QFETCH(QVariant, expected);
         const LicenseModel m = LicenseModel::fromJson(QJsonObject{{key, value}});
         QCOMPARE(member(m, key), expected);
+        QCOMPARE(member(LicenseModel::fromJson(m.toJson()), key), expected); // the file written from it reads the same
         // Other members are untouched by it.
         for (const QString& other : memberKeys)
             if (other != key)
@@ -129,17 +130,6 @@ private slots:
         QCOMPARE(back.availableVideoMask(), m.availableVideoMask());
         QCOMPARE(back.availableAudioMask(), m.availableAudioMask());
         QCOMPARE(back.codecAvailability(), m.codecAvailability());
-    }
-
-    void toJsonReadsBackTheSame()
-    {
-        const LicenseModel m = LicenseModel::fromJson(
-            QJsonObject{{"MaxStreaming", 1}, {"MaxWidth", 1920}, {"MaxHeight", 1080}, {"AudioBus", false}});
-        const LicenseModel back = LicenseModel::fromJson(m.toJson());
-        for (const QString& key : memberKeys)
-            QCOMPARE(member(back, key), member(m, key));
-        QCOMPARE(member(back, "MaxWidth"), QVariant(1920));
-        QCOMPARE(member(back, "AudioBus"), QVariant(false));
     }
 };
 

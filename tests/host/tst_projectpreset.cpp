@@ -1,4 +1,3 @@
-#include "contentssettings.h"
 #include "projectpreset.h"
 
 #include <QtTest>
@@ -53,15 +52,6 @@ private slots:
         QVERIFY(back.videoOutput().interlaced);
         QVERIFY(!back.processing().busAEnabled);
         QCOMPARE(back.audioOutput().channels, 8);
-    }
-
-    void contentsDirectories()
-    {
-        for (const char* data : {"/var/quillon", "/var/quillon/"}) {
-            QCOMPARE(ContentsSettings::underDirectory(data).codecPresetPath(), QStringLiteral("/var/quillon/codecs"));
-            QCOMPARE(ContentsSettings::underDirectory(data).serverPresetPath(), QStringLiteral("/var/quillon/servers"));
-        }
-        QCOMPARE(ContentsSettings::underDirectory("data").codecPresetPath(), QStringLiteral("data/codecs"));
     }
 };
 

@@ -54,7 +54,6 @@ private slots:
         silent.audioCodec().channels = 6;
         QTest::newRow("audio only, six channels") << silent << "" << "AAC Mono 48kHz 128kbps";
     }
-
     void summariesDescribeThePreset()
     {
         QFETCH(CodecPreset, preset);
@@ -90,7 +89,6 @@ private slots:
         QTest::newRow("auto, interlaced project") << 0.0 << 0 << 59.94 << true << 29.97;
         QTest::newRow("negative means auto") << -1.0 << 1 << 60.0 << false << 60.0;
     }
-
     void startResolvesTheFrameRate()
     {
         QFETCH(double, rate);

@@ -11,13 +11,11 @@
 #include "testkit.h"
 
 #include <QCheckBox>
-#include <QFileDialog>
 #include <QJsonArray>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <QToolButton>
 #include <QtTest>
 
@@ -86,7 +84,6 @@ private slots:
         QTest::newRow("bus B only") << true << false << programme + QStringList{"BUS B", "PGM+B"};
         QTest::newRow("not licensed") << false << true << programme;
     }
-
     void audioSourcesFollowBusesAndLicence()
     {
         QFETCH(bool, licensed);
@@ -116,7 +113,6 @@ private slots:
         // One pass only: a later row can still collide with an earlier one.
         QTest::newRow("one pass") << QStringList{"Cam 2", "Cam", "Cam"} << QStringList{"Cam 2", "Cam", "Cam 2"};
     }
-
     void presetsAreNamedInOnePass()
     {
         QFETCH(QStringList, typed);
@@ -176,7 +172,6 @@ private slots:
         QTest::newRow("yes") << int(QMessageBox::Yes) << QStringList{"A", "C"};
         QTest::newRow("no") << int(QMessageBox::No) << QStringList{"A", "B", "C"};
     }
-
     void removeAsksFirst()
     {
         QFETCH(int, answer);
@@ -220,7 +215,6 @@ private slots:
         QTest::newRow("mp4 xor") << (all & ~0x0080) << QStringList{"MP4"} << mp4 + QStringList{"Apple ProRes", "MPEG-2"} << 19;
         QTest::newRow("mkv xor") << (all & ~0x0200) << QStringList{"MKV"} << mkv + QStringList{"DV25", "WMV"} << 19;
     }
-
     void containerRestrictsCodecs()
     {
         QFETCH(int, availableMask);
@@ -291,7 +285,6 @@ private slots:
         QTest::newRow("preview") << 2 << 10;
         QTest::newRow("other") << 5 << 5;
     }
-
     void olderVideoSourceKeyWins()
     {
         QFETCH(int, legacy);
@@ -320,7 +313,6 @@ private slots:
         QTest::newRow("off: the encoder list's") << false << 0;
         QTest::newRow("on") << true << 3600;
     }
-
     void splitTimeOnlyWhenSplitting()
     {
         QFETCH(bool, split);
@@ -400,7 +392,6 @@ private slots:
         QTest::newRow("accepted") << true;
         QTest::newRow("cancelled") << false;
     }
-
     void namingDialogKeepsTheTag()
     {
         QFETCH(bool, accept);
@@ -439,21 +430,6 @@ private slots:
         QCOMPARE(control<QLineEdit>("folder")->text(), QStringLiteral("/media/rec"));
         QCOMPARE(encoderList()->currentPreset().videoCodec().height, 1080);
         m_setup->hide();
-    }
-
-    void browseTakesTheChosenFolder()
-    {
-        QTemporaryDir target;
-        open();
-        ModalDriver<QFileDialog> driver([&target](QFileDialog* dialog) {
-            QCOMPARE(dialog->windowTitle(), QStringLiteral("Open Directory"));
-            dialog->setDirectory(target.path());
-            dialog->selectFile(target.path());
-            static_cast<QDialog*>(dialog)->accept(); // QFileDialog hides its accept()
-        });
-        control<QToolButton>("browse")->click();
-        QVERIFY(driver.found());
-        QCOMPARE(QDir(control<QLineEdit>("folder")->text()), QDir(target.path()));
     }
 
     void badStoredSettingsNeverCrash()

@@ -62,7 +62,6 @@ private slots:
         full.audioCodec().bitPerSamples = 24;
         QTest::newRow("every stored field") << full << "HEVC 2160p59.94 1s 35Mbps, OpusStereo 48kHz 160kbps";
     }
-
     void labelNamesTheFile()
     {
         QFETCH(CodecPreset, preset);
@@ -97,7 +96,6 @@ private slots:
         for (const auto& row : sampleRates)
             QTest::addRow("%lld Hz", row.first) << true << row.first << row.second;
     }
-
     void unitTexts()
     {
         QFETCH(bool, kHz);
@@ -162,7 +160,6 @@ private slots:
         QTest::newRow("parts that are not objects") << QByteArray(R"({"VideoCodec":[1280],"AudioCodec":"AAC"})") << 0 << 0.0
                                                     << QString() << false;
     }
-
     void mistypedMembersReadAsDefaults()
     {
         QFETCH(QByteArray, json);

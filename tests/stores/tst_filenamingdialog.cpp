@@ -38,7 +38,6 @@ private slots:
         QTest::newRow("snapshot, codec tokens stay") << true << "%C %B %R" << "%C %B %R.jpg" << false;
         QTest::newRow("snapshot, emptied") << true << "" << "Untitled.jpg" << true;
     }
-
     void typingPreviewsTheName()
     {
         QFETCH(bool, snapshot);

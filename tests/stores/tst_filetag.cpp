@@ -89,7 +89,6 @@ private slots:
         QTest::newRow("lowest key counts") << withSources(recording("[%S]"), QString(), {2, 1}) << false << "[PGM CLEAN]";
         QTest::newRow("other source") << withSources(recording("[%S]"), QString(), {5}) << false << "[]";
     }
-
     void codecPresetTags()
     {
         QFETCH(CodecPreset, preset);
@@ -112,7 +111,6 @@ private slots:
         QTest::newRow("unknown source") << grab(4, "x%Sx") << false << "xx";
         QTest::newRow("empty tag") << grab(0, QString()) << true << "Untitled.png";
     }
-
     void snapshotTags()
     {
         QFETCH(Snapshot, shot);

@@ -40,7 +40,6 @@ private slots:
         QTest::newRow("expanded tag") << QStringList{"shot 09-05 PROGRAM.png"} << "%P %h-%m %S"
                                       << "shot 09-05 PROGRAM 2.png";
     }
-
     void nextFreeName()
     {
         QFETCH(QStringList, existing);

@@ -113,7 +113,6 @@ private slots:
             QTest::addRow("server store, %s", c.name) << true << c.kind << c.contents;
         }
     }
-
     void badEntriesAreSkipped()
     {
         QFETCH(bool, server);
@@ -177,7 +176,6 @@ private slots:
         }
         QTest::newRow("server store, empty title") << true << QString();
     }
-
     void namesStayInsideTheStore()
     {
         QFETCH(bool, server);
@@ -204,7 +202,6 @@ private slots:
         QTest::addColumn<bool>("server");
         addStoreRows("failures");
     }
-
     void storeFailures()
     {
         QFETCH(bool, server);

@@ -125,7 +125,6 @@ private slots:
         QTest::newRow("twenty-one pushes the first out") << 21 << 2;
         QTest::newRow("fifty") << 50 << 31;
     }
-
     void chatBufferKeepsTheNewest()
     {
         QFETCH(int, pushed);
