@@ -11,9 +11,6 @@
 #include "messagebox.h"
 #include "outputdialogregistry.h"
 #include "quillonengine.h"
-#endif
-
-#ifdef QUILLON_CONSOLE
 
 // The console window in-process: its lists, its dialog buttons and its engine log.
 class tst_Console : public QObject

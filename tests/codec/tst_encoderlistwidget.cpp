@@ -116,73 +116,54 @@ private slots:
         QCOMPARE(listed, codecs);
     }
 
-    void addWritesTheNewPreset_data() { acceptOrCancel(); }
-    void addWritesTheNewPreset()
+    void addAndEditWriteTheStore_data()
     {
-        QFETCH(bool, accept);
-        const CodecPreset kept = preset("H.264", 720, 3000);
-        write(kept);
-        m_list->setCodecMask(0x407F, 1);
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("accept");
+        QTest::addColumn<QString>("opensAt");
+        QTest::addColumn<QStringList>("after"); // the list's labels
 
-        ModalDriver<CodecPresetDialog> driver([accept](CodecPresetDialog* dialog) {
-            QVERIFY(choose(control<QComboBox>(dialog, "videoCodecList"), "HEVC"));
-            QVERIFY(choose(control<QComboBox>(dialog, "frameRateList"), "50p"));
-            QLineEdit* bitrate = control<QComboBox>(dialog, "videoBitrateList")->lineEdit();
-            bitrate->clear();
-            QTest::keyClicks(bitrate, "9000");
-            // The output's audio mask leaves AAC only.
-            QCOMPARE(control<QComboBox>(dialog, "audioCodecList")->count(), 1);
-            accept ? dialog->accept() : dialog->reject();
-        });
-        button("customAdd")->click();
-        QVERIFY(driver.found());
-
-        const QString added = "HEVC 1080p50 2s 9Mbps, AACStereo 48kHz 128kbps";
-        if (!accept) {
-            QCOMPARE(files(), QStringList{label(kept) + ".json"});
-            QCOMPARE(rows(), QStringList{label(kept)});
-            return;
-        }
-        QCOMPARE(files(), (QStringList{label(kept) + ".json", added + ".json"}));
-        QCOMPARE(rows(), (QStringList{label(kept), "--", added}));
-        QCOMPARE(presetList()->currentText(), added);
-        QCOMPARE(m_list->currentPreset().videoCodec().bitRate, 9000);
+        const QStringList before{label(m_low), label(m_high)};
+        QTest::newRow("add") << "customAdd" << true << "FHD (1920x1080)"
+                             << before + QStringList{"H.264 2160 AUTO 2s 4Mbps, AACStereo 48kHz 128kbps"};
+        QTest::newRow("add cancelled") << "customAdd" << false << "FHD (1920x1080)" << before;
+        // A changed label moves the file; the list is sorted again.
+        QTest::newRow("edit") << "customEdit" << true << "HD (1280x720)"
+                              << QStringList{label(m_high), "H.264 2160p29.97 2s 3Mbps, AACStereo 48kHz 128kbps"};
+        QTest::newRow("edit cancelled") << "customEdit" << false << "HD (1280x720)" << before;
     }
-
-    void editMovesTheFileWhenTheLabelChanges_data() { acceptOrCancel(); }
-    void editMovesTheFileWhenTheLabelChanges()
+    void addAndEditWriteTheStore()
     {
+        QFETCH(QString, button);
         QFETCH(bool, accept);
-        const CodecPreset low = preset("H.264", 720, 3000);
-        const CodecPreset high = preset("H.264", 1080, 8000);
-        write(low);
-        write(high);
-        const QByteArray before = readFile(fileOf(low));
-        m_list->setCodecMask(~0, ~0);
-        m_list->selectPreset(low);
-        QCOMPARE(presetList()->currentText(), label(low));
+        QFETCH(QString, opensAt);
+        QFETCH(QStringList, after);
+        write(m_low);
+        write(m_high);
+        const QByteArray lowFile = readFile(fileOf(m_low));
+        m_list->setCodecMask(0x407F, 1);
+        m_list->selectPreset(m_low);
 
-        ModalDriver<CodecPresetDialog> driver([accept](CodecPresetDialog* dialog) {
+        ModalDriver<CodecPresetDialog> driver([&](CodecPresetDialog* dialog) {
             QComboBox* sizes = control<QComboBox>(dialog, "videoSizeList");
-            QCOMPARE(sizes->currentText(), QStringLiteral("HD (1280x720)"));
+            QCOMPARE(sizes->currentText(), opensAt);
             QVERIFY(choose(sizes, "UHD (3840x2160)"));
+            // The output's audio mask leaves AAC only.
+            QCOMPARE(comboTexts(control<QComboBox>(dialog, "audioCodecList")), QStringList{"AAC"});
             accept ? dialog->accept() : dialog->reject();
         });
-        button("customEdit")->click();
+        this->button(button.toLatin1())->click();
         QVERIFY(driver.found());
 
-        if (!accept) {
-            QCOMPARE(readFile(fileOf(low)), before);
-            QCOMPARE(files().size(), 2);
-            QCOMPARE(rows(), (QStringList{label(low), label(high)}));
-            return;
-        }
-        const CodecPreset current = m_list->currentPreset();
-        QCOMPARE(current.videoCodec().height, 2160);
-        QCOMPARE(presetList()->currentText(), label(current));
-        QCOMPARE(files(), (QStringList{label(high) + ".json", label(current) + ".json"}));
-        // Sorted again: the edited preset now comes after the 1080 one.
-        QCOMPARE(rows(), (QStringList{label(high), label(current)}));
+        QCOMPARE(rows(), after);
+        QStringList files;
+        for (const QString& name : after)
+            files << name + ".json";
+        files.sort();
+        QCOMPARE(this->files(), files);
+        QCOMPARE(presetList()->currentText(), accept ? after.last() : label(m_low));
+        if (!accept)
+            QCOMPARE(readFile(fileOf(m_low)), lowFile);
     }
 
     void removeAsksFirst_data()
@@ -195,7 +176,7 @@ private slots:
     {
         QFETCH(int, answer);
         const bool removed = answer == QMessageBox::Yes;
-        const CodecPreset first = preset("H.264", 720, 3000);
+        const CodecPreset& first = m_low;
         const CodecPreset second = preset("HEVC", 1080, 5000);
         write(first);
         write(second);
@@ -227,12 +208,11 @@ private slots:
 
     void selectPresetAndCurrentPreset()
     {
-        const CodecPreset a = preset("H.264", 720, 3000);
-        write(a);
-        write(preset("H.264", 1080, 6000));
+        write(m_low);
+        write(m_high);
         m_list->setCodecMask(~0, ~0);
         QSignalSpy changed(m_list.get(), &EncoderListWidget::presetChanged);
-        m_list->selectPreset(a);
+        m_list->selectPreset(m_low);
         QCOMPARE(changed.count(), 1);
         QCOMPARE(m_list->currentPreset().videoCodec().bitRate, 3000);
 
@@ -244,7 +224,7 @@ private slots:
 
     void withoutStoreTheListStaysEmpty()
     {
-        write(preset("H.264", 720, 3000));
+        write(m_low);
         m_stores.reset();
         m_list->setCodecMask(~0, ~0);
         QCOMPARE(m_list->count(), 0);
@@ -252,12 +232,8 @@ private slots:
     }
 
 private:
-    static void acceptOrCancel()
-    {
-        QTest::addColumn<bool>("accept");
-        QTest::newRow("accepted") << true;
-        QTest::newRow("cancelled") << false;
-    }
+    const CodecPreset m_low = preset("H.264", 720, 3000);
+    const CodecPreset m_high = preset("H.264", 1080, 8000);
 
     void write(const CodecPreset& p) { QVERIFY(m_stores->codecManager().write(p)); }
     QString fileOf(const CodecPreset& p) const { return m_stores->codecDir() + '/' + label(p) + ".json"; }

@@ -69,7 +69,6 @@ private slots:
 
         QTest::newRow("every token") << withSources(recording("%P %Y-%M-%D %h-%m-%s %C_%B_%R %S"), QString(), {0}) << true
                                      << "Main 2024-03-07 09-05-02 H.264_6000Kbps_1920x1080 PGM.mp4";
-        QTest::newRow("without extension") << recording("%Y%M%D") << false << "20240307";
         QTest::newRow("empty tag") << recording(QString()) << true << "Untitled.mp4";
         QTest::newRow("doubled percent") << recording("%%Y") << false << "%2024";
         QTest::newRow("trailing percent") << recording("take %") << false << "take %";

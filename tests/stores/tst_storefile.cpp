@@ -69,12 +69,6 @@ struct Store {
     }
 };
 
-void addStoreRows(const char* name)
-{
-    QTest::addRow("codec store, %s", name) << false;
-    QTest::addRow("server store, %s", name) << true;
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(BadEntry)
@@ -200,7 +194,8 @@ private slots:
     void storeFailures_data()
     {
         QTest::addColumn<bool>("server");
-        addStoreRows("failures");
+        QTest::newRow("codec store") << false;
+        QTest::newRow("server store") << true;
     }
     void storeFailures()
     {
@@ -246,6 +241,12 @@ private slots:
         }
         QCOMPARE(readFile(blocker), QByteArray("mine"));
         QCOMPARE(store.loaded(), QStringList{"Kept=kept"});
+
+        // Over a directory that is not there: nothing is read, nothing made.
+        const QString nowhere = stores.root() + "/nowhere";
+        QVERIFY(server ? StreamingManager(ContentsSettings(nowhere, nowhere), LicenseModel()).serverInfos().isEmpty()
+                       : CodecManager(ContentsSettings(nowhere, nowhere)).codecPresets().isEmpty());
+        QVERIFY(!QFileInfo::exists(nowhere));
     }
 
     void serverFilesByNameAndSize()
