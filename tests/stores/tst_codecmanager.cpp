@@ -143,40 +143,31 @@ private slots:
     void mistypedMembersReadAsDefaults_data()
     {
         QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<int>("width");
-        QTest::addColumn<double>("frameRate");
-        QTest::addColumn<QString>("codec");
-        QTest::addColumn<bool>("audioEnabled");
+        QTest::addColumn<QString>("read"); // codec, width, frame rate, audio switch
 
-        QTest::newRow("well typed") << QByteArray(R"({"VideoCodec":{"Codec":"HEVC","Width":1280,"FrameRate":50},
-                                                     "AudioCodec":{"Enabled":true}})")
-                                    << 1280 << 50.0 << "HEVC" << true;
-        QTest::newRow("strings for numbers and bool")
-            << QByteArray(R"({"VideoCodec":{"Codec":"HEVC","Width":"1280","FrameRate":"50"},"AudioCodec":{"Enabled":"true"}})")
-            << 0 << 0.0 << "HEVC" << false;
+        QTest::newRow("well typed") << QByteArray(R"({"VideoCodec":{"Codec":"HEVC","Width":1280,"FrameRate":50},)"
+                                                  R"("AudioCodec":{"Enabled":true}})")
+                                    << "HEVC 1280 50 on";
+        QTest::newRow("strings for numbers and bool") << QByteArray(R"({"VideoCodec":{"Codec":"HEVC","Width":"1280",)"
+                                                                    R"("FrameRate":"50"},"AudioCodec":{"Enabled":"true"}})")
+                                                      << "HEVC 0 0 off";
         QTest::newRow("number for string, fraction for int")
             << QByteArray(R"({"VideoCodec":{"Codec":264,"Width":1280.5,"FrameRate":29.97},"AudioCodec":{"Enabled":1}})")
-            << 0 << 29.97 << QString() << false;
-        QTest::newRow("parts that are not objects") << QByteArray(R"({"VideoCodec":[1280],"AudioCodec":"AAC"})") << 0 << 0.0
-                                                    << QString() << false;
+            << " 0 29.97 off";
+        QTest::newRow("parts that are not objects") << QByteArray(R"({"VideoCodec":[1280],"AudioCodec":"AAC"})") << " 0 0 off";
     }
     void mistypedMembersReadAsDefaults()
     {
         QFETCH(QByteArray, json);
-        QFETCH(int, width);
-        QFETCH(double, frameRate);
-        QFETCH(QString, codec);
-        QFETCH(bool, audioEnabled);
-
+        QFETCH(QString, read);
         TempStores stores;
         stores.writeCodecFile("hand made.json", json);
         stores.codecManager().reloadPresets();
         QCOMPARE(stores.codecManager().codecPresets().size(), 1);
         const CodecPreset& p = stores.codecManager().codecPresets().first();
-        QCOMPARE(p.videoCodec().width, width);
-        QCOMPARE(p.videoCodec().frameRate, frameRate);
-        QCOMPARE(p.videoCodec().codec, codec);
-        QCOMPARE(p.audioCodec().enabled, audioEnabled);
+        QCOMPARE(QString("%1 %2 %3 %4").arg(p.videoCodec().codec).arg(p.videoCodec().width).arg(p.videoCodec().frameRate)
+                     .arg(p.audioCodec().enabled ? "on" : "off"),
+                 read);
     }
 
     void copiesLeaveTheInstanceAlone()
