@@ -1,4 +1,8 @@
+#include "testkit.h"
+
 #include <QtTest>
+
+using TestKit::readFile;
 
 // Starts the built reference host as an operator would and checks what it leaves behind.
 class tst_Quillon : public QObject
@@ -10,8 +14,9 @@ class tst_Quillon : public QObject
         QString log; // the host's log lines (stderr)
     };
 
-    static Run start(const QStringList& arguments)
+    static Run start(const QTemporaryDir& shots, const QTemporaryDir& data)
     {
+        const QStringList arguments{"--screenshots", shots.path(), "--data", data.path()};
         Run run;
 #ifdef QUILLON_EXECUTABLE
         QProcess process;
@@ -32,18 +37,9 @@ class tst_Quillon : public QObject
 #endif
         return run;
     }
-    static Run start(const QTemporaryDir& shots, const QTemporaryDir& data)
-    {
-        return start({"--screenshots", shots.path(), "--data", data.path()});
-    }
     static QStringList presetFiles(const QTemporaryDir& data)
     {
         return QDir(data.filePath("codecs")).entryList({"*.json"}, QDir::Files, QDir::Name);
-    }
-    static QByteArray readFile(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
 private slots:
@@ -107,7 +103,6 @@ private slots:
 
         QTest::newRow("setup truncated") << "setup.json" << QByteArray("{\"RECORDING\": [")
                                          << "The setup file was damaged and has been kept as " << true;
-        QTest::newRow("setup is an array") << "setup.json" << QByteArray("[]") << "starting with default settings." << true;
         QTest::newRow("project not JSON") << "project.json" << QByteArray("1080p") << "project.json is not valid" << false;
         QTest::newRow("licence an array") << "license.json" << QByteArray("[4]") << "license.json is not valid" << false;
         QTest::newRow("licence lowered, one member mistyped")
@@ -122,9 +117,7 @@ private slots:
         QFETCH(bool, keptAside);
         QTemporaryDir shots;
         QTemporaryDir data;
-        QFile damaged(data.filePath(file));
-        QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.write(content) == content.size());
-        damaged.close();
+        QVERIFY(TestKit::writeFile(data.filePath(file), content));
 
         const Run run = start(shots, data);
         QCOMPARE(run.exitCode, 0);
@@ -137,29 +130,6 @@ private slots:
         QCOMPARE(aside.size(), keptAside ? 1 : 0);
         // A damaged setup is kept aside; licence and project files are the operator's to fix: left as they were.
         QCOMPARE(readFile(data.filePath(keptAside ? aside.first() : file)), content);
-    }
-
-    void badArgumentsAreRefused_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("exitCode");
-        QTest::newRow("unknown option") << QStringList{"--colour"} << 2;
-        QTest::newRow("stray argument") << QStringList{"extra"} << 2;
-        QTest::newRow("help") << QStringList{"--help"} << 0;
-        QTest::newRow("screenshot folder that cannot be made") << QStringList{"--screenshots", "BLOCKER/shots"} << 1;
-    }
-    void badArgumentsAreRefused()
-    {
-        QFETCH(QStringList, arguments);
-        QFETCH(int, exitCode);
-        QTemporaryDir data;
-        QFile blocker(data.filePath("blocker"));
-        QVERIFY(blocker.open(QIODevice::WriteOnly));
-        blocker.close();
-        arguments.replaceInStrings("BLOCKER", blocker.fileName());
-        const Run run = start(arguments << "--data" << data.path());
-        QCOMPARE(run.exitCode, exitCode);
-        QCOMPARE(run.log.contains("could not be created"), exitCode == 1);
     }
 };
 

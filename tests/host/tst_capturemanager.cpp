@@ -57,6 +57,7 @@ private slots:
         QVERIFY(!manager.videoDevice("Unplugged").isValid());
         QVERIFY(manager.displayModes("Unplugged").isEmpty());
         QCOMPARE(manager.displayModes("NDI Output 2"), NdiOutput::supportFormats());
+        QVERIFY(NdiOutput::supportsFormat("720p50") && !NdiOutput::supportsFormat("576i50"));
 
         VideoDevice capture("Capture 1", VideoDevice::Sdi, {"1080i50"});
         capture.setDirections(VideoDevice::Input);
@@ -103,18 +104,7 @@ private slots:
         QCOMPARE(mode.name(), read.isEmpty() ? QString() : name.trimmed());
         const QString shown = QString("%1 %2 %3 %4").arg(mode.width()).arg(mode.height());
         QCOMPARE(shown.arg(mode.isInterlaced() ? 'i' : 'p').arg(mode.frameRate()), read.isEmpty() ? "0 0 p 0" : read);
-    }
-
-    void fitsWithinALicenceAndNdiFormats()
-    {
-        QVERIFY(DisplayMode::fromName("1080p59.94").fitsWithin(1920, 1080));
-        QVERIFY(!DisplayMode::fromName("2160p29.97").fitsWithin(1920, 1080));
-        QVERIFY(!DisplayMode().fitsWithin(1920, 1080));
-
-        for (const QString& format : NdiOutput::supportFormats())
-            QVERIFY2(DisplayMode::fromName(format).isValid(), qPrintable(format));
-        QVERIFY(NdiOutput::supportsFormat("720p50"));
-        QVERIFY(!NdiOutput::supportsFormat("576i50"));
+        QCOMPARE(mode.fitsWithin(1920, 1080), mode.isValid() && mode.height() <= 1080);
     }
 };
 

@@ -49,25 +49,6 @@ private slots:
         QCOMPARE(m.containers().value(2), QStringLiteral("mp4"));
     }
 
-    void codecUsageBits_data()
-    {
-        QTest::addColumn<QString>("codec");
-        QTest::addColumn<int>("usage");
-        QTest::newRow("H.264 goes everywhere")
-            << "H.264" << (LicenseModel::usageRecording | LicenseModel::usageStreaming | LicenseModel::usageIso);
-        QTest::newRow("ProRes never streams") << "Apple ProRes" << (LicenseModel::usageRecording | LicenseModel::usageIso);
-        QTest::newRow("WMV only records") << "WMV" << int(LicenseModel::usageRecording);
-    }
-    void codecUsageBits()
-    {
-        QFETCH(QString, codec);
-        QFETCH(int, usage);
-        const LicenseModel m;
-        const int flags = m.codecAvailability().value(codec);
-        QCOMPARE(flags & 0xffff, m.videoCodecs().value(codec));
-        QCOMPARE(flags & ~0xffff, usage);
-    }
-
     void members_data()
     {
         QTest::addColumn<QString>("key");

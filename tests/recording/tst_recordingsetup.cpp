@@ -334,24 +334,12 @@ private slots:
                        {"AudioSourceType", 10}});
         const QJsonObject third = storedRow("Third", {{"Path", ""}, {"MediaToBin", "Nowhere"}});
         open(QJsonArray{storedRow("First"), second, third});
-        QCOMPARE(control("containerList")->currentText(), QStringLiteral("MP4"));
-
+        QCOMPARE(shownSettings(), QStringLiteral("/media/rec | %P | MP4 | no split | None | PGM | PGM | H.264"));
         rows()->setCurrentRow(1);
-        QCOMPARE(control<QLineEdit>("folder")->text(), QStringLiteral("/media/clips"));
-        QCOMPARE(control<QLineEdit>("fileTag")->text(), QStringLiteral("%S"));
-        QCOMPARE(control("containerList")->currentText(), QStringLiteral("AVI"));
-        QVERIFY(control<QCheckBox>("splitFile")->isChecked());
-        QCOMPARE(control("splitTimeList")->currentText(), QStringLiteral("15 minutes"));
-        QCOMPARE(control("mediaToBin")->currentText(), QStringLiteral("CLIP 1"));
-        QCOMPARE(control("videoSourceList")->currentText(), QStringLiteral("PGM(Clean)"));
-        QCOMPARE(control("audioSourceList")->currentText(), QStringLiteral("PVW"));
-        QCOMPARE(encoderList()->currentPreset().videoCodec().codec, QStringLiteral("MJPEG"));
-
-        rows()->setCurrentRow(2); // an empty path keeps the folder; an unknown bin falls back to "None"
-        QCOMPARE(control<QLineEdit>("folder")->text(), QStringLiteral("/media/clips"));
-        QVERIFY(!control<QCheckBox>("splitFile")->isChecked());
-        QCOMPARE(control("mediaToBin")->currentIndex(), 0);
-        QCOMPARE(encoderList()->currentPreset().videoCodec().codec, QStringLiteral("H.264"));
+        QCOMPARE(shownSettings(), QStringLiteral("/media/clips | %S | AVI | 15 minutes | CLIP 1 | PGM(Clean) | PVW | MJPEG"));
+        // An empty path keeps the folder; an unknown bin falls back to "None".
+        rows()->setCurrentRow(2);
+        QCOMPARE(shownSettings(), QStringLiteral("/media/clips | %P | MP4 | no split | None | PGM | PGM | H.264"));
 
         // The video source drives the audio source.
         choose("audioSourceList", "BUS B");
@@ -400,7 +388,7 @@ private slots:
         m_setup->show();
         QVERIFY(list->findText(CodecManager::namingFromPreset(&later)) >= 0);
         // The current row is applied again: folder and codec come back.
-        QCOMPARE(control<QLineEdit>("folder")->text(), QStringLiteral("/media/rec"));
+        QCOMPARE(shownSettings(), QStringLiteral("/media/rec | %P | MP4 | no split | None | PGM | PGM | H.264"));
         QCOMPARE(encoderList()->currentPreset().videoCodec().height, 1080);
         m_setup->hide();
     }
@@ -446,6 +434,16 @@ private:
         return TestKit::control<T>(m_setup.get(), name);
     }
     EncoderListWidget* encoderList() const { return control<EncoderListWidget>("encoderList"); }
+    // Folder, name, format, split, bin, sources and codec as the form shows them.
+    QString shownSettings() const
+    {
+        return QStringList{control<QLineEdit>("folder")->text(), control<QLineEdit>("fileTag")->text(),
+                           control("containerList")->currentText(),
+                           control<QCheckBox>("splitFile")->isChecked() ? control("splitTimeList")->currentText() : "no split",
+                           control("mediaToBin")->currentText(), control("videoSourceList")->currentText(),
+                           control("audioSourceList")->currentText(), encoderList()->currentPreset().videoCodec().codec}
+            .join(" | ");
+    }
     QJsonArray stored() const { return m_host->settings().value("RECORDING").toArray(); }
     QStringList storedNames() const
     {
