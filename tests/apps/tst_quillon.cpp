@@ -103,10 +103,13 @@ private slots:
 
         QTest::newRow("setup truncated") << "setup.json" << QByteArray("{\"RECORDING\": [")
                                          << "The setup file was damaged and has been kept as " << true;
-        QTest::newRow("project not JSON") << "project.json" << QByteArray("1080p") << "project.json is not valid" << false;
-        QTest::newRow("licence an array") << "license.json" << QByteArray("[4]") << "license.json is not valid" << false;
+        QTest::newRow("project not JSON")
+            << "project.json" << QByteArray("1080p") << "project.json is not valid" << false;
+        QTest::newRow("licence an array")
+            << "license.json" << QByteArray("[4]") << "license.json is not valid" << false;
         QTest::newRow("licence lowered, one member mistyped")
-            << "license.json" << QByteArray(R"({"MaxStreaming": 1, "MaxRecording": "two", "MaxWidth": 1920, "MaxHeight": 1080})")
+            << "license.json"
+            << QByteArray(R"({"MaxStreaming": 1, "MaxRecording": "two", "MaxWidth": 1920, "MaxHeight": 1080})")
             << "Licence: 1 streams, 4 recordings, 8 ISO recordings, 4 outputs, up to 1920x1080." << false;
     }
     void damagedFiles()

@@ -60,7 +60,8 @@ private slots:
         QTest::addColumn<QStringList>("audio");
 
         const QStringList delivery{"H.264", "H.264 NVENC", "H.264 QSV", "H.264 AMF", "HEVC", "HEVC NVENC", "HEVC AMF"};
-        QTest::newRow("recording, flv") << recording << 0x407F << 1 << delivery + QStringList{"AV1"} << QStringList{"AAC"};
+        QTest::newRow("recording, flv") << recording << 0x407F << 1 << delivery + QStringList{"AV1"}
+                                        << QStringList{"AAC"};
         QTest::newRow("streaming, anything") << streaming << ~0 << allAudio << delivery + QStringList{"AV1"}
                                              << QStringList{"AAC", "MP3", "Opus", "AC3", "PCM"};
         QTest::newRow("recording, avi") << recording << 0x800 << 16 << QStringList{"MJPEG"} << QStringList{"PCM"};
@@ -334,7 +335,8 @@ private slots:
         QVERIFY(!QSettings().contains("ql.codec.state"));
 
         // Unreadable text, and a codec the masks don't allow, fall back to the defaults.
-        for (auto [state, usage] : {std::make_pair("{not json", recording), std::make_pair("{\"VideoCodec\":\"DV25\"}", streaming)}) {
+        for (auto [state, usage] :
+             {std::make_pair("{not json", recording), std::make_pair("{\"VideoCodec\":\"DV25\"}", streaming)}) {
             QSettings().setValue("ql.codec.state", QString::fromLatin1(state));
             open(usage);
             QCOMPARE(control("videoCodecList")->currentText(), QStringLiteral("H.264"));
@@ -357,7 +359,8 @@ private:
     void open(int usage, CodecPreset* edited = nullptr, int outputMask = ~0, int audioMask = allAudio)
     {
         const int usageMask = usage == streaming ? LicenseModel::usageStreaming : LicenseModel::usageRecording;
-        m_dialog = std::make_unique<CodecPresetDialog>(nullptr, usage, edited, usageMask, allAudio, outputMask, audioMask);
+        m_dialog
+            = std::make_unique<CodecPresetDialog>(nullptr, usage, edited, usageMask, allAudio, outputMask, audioMask);
     }
     template <typename T = QComboBox>
     T* control(const char* name) const

@@ -72,8 +72,9 @@ private slots:
         QSignalSpy changed(m_list.get(), &EncoderListWidget::presetChanged);
         m_list->setCodecMask(~0, ~0);
         QCOMPARE(changed.count(), 1);
-        QCOMPARE(rows(), (QStringList{label(h720), label(h1080), label(h1080loud), label(h1080fast), "--", label(hevc720),
-                                      label(uhd), "--", label(mjpeg)}));
+        QCOMPARE(rows(),
+                 (QStringList{label(h720), label(h1080), label(h1080loud), label(h1080fast), "--", label(hevc720),
+                              label(uhd), "--", label(mjpeg)}));
         QCOMPARE(m_list->count(), 9);
         QVERIFY(button("customDel")->isEnabled() && button("customEdit")->isEnabled());
         // Items carry their preset; the recording and streaming parts are switched off.
@@ -92,8 +93,10 @@ private slots:
         const int recording = LicenseModel::usageRecording;
         QTest::newRow("recording, everything") << 1 << recording << ~0
                                                << QStringList{"Apple ProRes", "H.264", "H.264 NVENC", "WMV"};
-        QTest::newRow("streaming") << 0 << int(LicenseModel::usageStreaming) << ~0 << QStringList{"H.264", "H.264 NVENC"};
-        QTest::newRow("iso") << 2 << int(LicenseModel::usageIso) << ~0 << QStringList{"Apple ProRes", "H.264", "H.264 NVENC"};
+        QTest::newRow("streaming") << 0 << int(LicenseModel::usageStreaming) << ~0
+                                   << QStringList{"H.264", "H.264 NVENC"};
+        QTest::newRow("iso") << 2 << int(LicenseModel::usageIso) << ~0
+                             << QStringList{"Apple ProRes", "H.264", "H.264 NVENC"};
         QTest::newRow("recording, flv") << 1 << recording << 0x407F << QStringList{"H.264", "H.264 NVENC"};
         QTest::newRow("recording, no codec bit") << 1 << recording << 0 << QStringList();
     }

@@ -26,13 +26,14 @@ private slots:
         QTest::addColumn<Button>("expected");
 
         QTest::newRow("information takes its only button")
-            << Kind::Information << QMessageBox::StandardButtons(QMessageBox::Ok) << QMessageBox::NoButton << QMessageBox::Ok;
+            << Kind::Information << QMessageBox::StandardButtons(QMessageBox::Ok) << QMessageBox::NoButton
+            << QMessageBox::Ok;
         QTest::newRow("question without default takes Yes") << Kind::Question << (QMessageBox::Yes | QMessageBox::No)
                                                             << QMessageBox::NoButton << QMessageBox::Yes;
         QTest::newRow("question with default No takes No") << Kind::Question << (QMessageBox::Yes | QMessageBox::No)
                                                            << QMessageBox::No << QMessageBox::No;
-        QTest::newRow("critical takes the lowest button bit") << Kind::Critical << (QMessageBox::Close | QMessageBox::Save)
-                                                              << QMessageBox::NoButton << QMessageBox::Save;
+        QTest::newRow("critical takes the lowest button bit")
+            << Kind::Critical << (QMessageBox::Close | QMessageBox::Save) << QMessageBox::NoButton << QMessageBox::Save;
         QTest::newRow("no buttons at all") << Kind::Warning << QMessageBox::StandardButtons() << QMessageBox::NoButton
                                            << QMessageBox::NoButton;
     }
@@ -60,9 +61,11 @@ private slots:
         MessageBox::setNextAnswer(QMessageBox::Yes);
 
         // The styled box's question goes through the seam as well.
-        QCOMPARE(QMessageBoxEx::question(nullptr, "Preset", "Are you sure you want to remove this item?"), QMessageBox::No);
+        QCOMPARE(QMessageBoxEx::question(nullptr, "Preset", "Are you sure you want to remove this item?"),
+                 QMessageBox::No);
         // A queued answer is returned even when it is not among the buttons, and beats the default button.
-        QCOMPARE(MessageBox::warning(nullptr, "Streaming", "Check the maximum number of streams."), QMessageBox::Cancel);
+        QCOMPARE(MessageBox::warning(nullptr, "Streaming", "Check the maximum number of streams."),
+                 QMessageBox::Cancel);
         QCOMPARE(MessageBox::question(nullptr, "a", "1", QMessageBox::Yes | QMessageBox::No, QMessageBox::No),
                  QMessageBox::Yes);
         // The queue is empty again: back to the default answer.

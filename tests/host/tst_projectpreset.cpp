@@ -14,8 +14,9 @@ private slots:
 
         const QString defaults = "1920 1080 29.97 48000 3";
         QTest::newRow("empty keeps defaults") << QByteArray("{}") << defaults;
-        QTest::newRow("UHD 59.94") << QByteArray(R"({"VideoOutput": {"Width": 3840, "Height": 2160, "FrameRate": 59.94}})")
-                                   << "3840 2160 59.94 48000 3";
+        QTest::newRow("UHD 59.94")
+            << QByteArray(R"({"VideoOutput": {"Width": 3840, "Height": 2160, "FrameRate": 59.94}})")
+            << "3840 2160 59.94 48000 3";
         QTest::newRow("mistyped members keep defaults")
             << QByteArray(R"({"VideoOutput": {"Width": "1280", "FrameRate": "50"}, "AudioOutput": []})") << defaults;
         QTest::newRow("zero, negative and absurd values keep defaults")

@@ -63,7 +63,8 @@ private slots:
         QTest::newRow("stop of something not running")
             << QList<Step>{{"A", "1", true}, {"B", "2", false}} << QStringList{"A"};
         QTest::newRow("restart by id replaces the entry and moves it last")
-            << QList<Step>{{"A", "1", true}, {"B", "2", true}, {"A renamed", "1", true}} << QStringList{"B", "A renamed"};
+            << QList<Step>{{"A", "1", true}, {"B", "2", true}, {"A renamed", "1", true}}
+            << QStringList{"B", "A renamed"};
         QTest::newRow("same name, other id, are two encoders")
             << QList<Step>{{"Program", "1", true}, {"Program", "2", true}} << QStringList{"Program", "Program"};
         QTest::newRow("without id the name identifies")

@@ -79,8 +79,8 @@ private slots:
         QTest::addColumn<QStringList>("sources");
 
         const QStringList programme{"PGM", "PGM(Clean)", "PVW"};
-        QTest::newRow("both buses") << true << true
-                                    << programme + QStringList{"BUS A", "BUS B", "BUS A+B", "PGM+A", "PGM+B", "PGM+A+B"};
+        QTest::newRow("both buses") << true << true << programme + QStringList{"BUS A", "BUS B", "BUS A+B",
+                                                                               "PGM+A", "PGM+B", "PGM+A+B"};
         QTest::newRow("bus B only") << true << false << programme + QStringList{"BUS B", "PGM+B"};
         QTest::newRow("not licensed") << false << true << programme;
     }
@@ -100,7 +100,8 @@ private slots:
         QCOMPARE(comboTexts(control("audioSourceList")), sources);
         const int both = control("audioSourceList")->findText("PGM+A+B");
         if (both >= 0)
-            QCOMPARE(control("audioSourceList")->itemData(both).value<SourceMap>(), (SourceMap{{7, -1}, {17, -1}, {18, -1}}));
+            QCOMPARE(control("audioSourceList")->itemData(both).value<SourceMap>(),
+                     (SourceMap{{7, -1}, {17, -1}, {18, -1}}));
     }
 
     void presetsAreNamedInOnePass_data()
@@ -195,7 +196,8 @@ private slots:
         QTest::addColumn<int>("audioMask");
 
         const int all = 0x7FFF;
-        const QStringList flv{"AV1", "H.264", "H.264 AMF", "H.264 NVENC", "H.264 QSV", "HEVC", "HEVC AMF", "HEVC NVENC"};
+        const QStringList flv{"AV1",       "H.264", "H.264 AMF", "H.264 NVENC",
+                              "H.264 QSV", "HEVC",  "HEVC AMF",  "HEVC NVENC"};
         const QStringList mp4 = flv + QStringList{"MJPEG", "WMV"};
         const QStringList mkv = flv + QStringList{"MJPEG", "MPEG-2"};
         QTest::newRow("flv at start") << all << QStringList() << flv << 1;
@@ -205,7 +207,8 @@ private slots:
         QTest::newRow("mov keeps the last masks") << all << QStringList{"AVI", "MOV"} << QStringList{"MJPEG"} << 16;
         QTest::newRow("back to flv") << all << QStringList{"AVI", "FLV"} << flv << 1;
         // XOR, not AND-NOT: a codec missing from the available mask comes back.
-        QTest::newRow("mp4 xor") << (all & ~0x0080) << QStringList{"MP4"} << mp4 + QStringList{"Apple ProRes", "MPEG-2"} << 19;
+        QTest::newRow("mp4 xor") << (all & ~0x0080) << QStringList{"MP4"} << mp4 + QStringList{"Apple ProRes", "MPEG-2"}
+                                 << 19;
         QTest::newRow("mkv xor") << (all & ~0x0200) << QStringList{"MKV"} << mkv + QStringList{"DV25", "WMV"} << 19;
     }
     void containerRestrictsCodecs()
@@ -218,8 +221,8 @@ private slots:
         LicenseModel license;
         license.setAvailableVideoMask(availableMask);
         makeStores(license);
-        for (const char* codec : {"H.264", "H.264 NVENC", "H.264 QSV", "H.264 AMF", "HEVC", "HEVC NVENC", "HEVC AMF", "MPEG-2",
-                                  "DV25", "WMV", "DNxHD", "MJPEG", "Apple ProRes", "XDCAM HD", "AV1"})
+        for (const char* codec : {"H.264", "H.264 NVENC", "H.264 QSV", "H.264 AMF", "HEVC", "HEVC NVENC", "HEVC AMF",
+                                  "MPEG-2", "DV25", "WMV", "DNxHD", "MJPEG", "Apple ProRes", "XDCAM HD", "AV1"})
             QVERIFY(m_stores->codecManager().write(preset(codec, 1080, 50000)));
         open();
         for (const QString& container : containers)
@@ -328,15 +331,16 @@ private slots:
 
     void selectingRowAppliesItsSettings()
     {
-        const QJsonObject second = storedRow(
-            "Second", {{"ContainerName", "avi"}, {"VideoCodec", "MJPEG"},  {"VideoBitRate", 40000}, {"Path", "/media/clips"},
-                       {"FileTag", "%S"},        {"SplitTime", 900},       {"MediaToBin", "CLIP 1"}, {"VideoSourceType", 8},
-                       {"AudioSourceType", 10}});
+        const QJsonObject second = storedRow("Second", {{"ContainerName", "avi"}, {"VideoCodec", "MJPEG"},
+                                                        {"SplitTime", 900}, {"Path", "/media/clips"}, {"FileTag", "%S"},
+                                                        {"MediaToBin", "CLIP 1"}, {"VideoSourceType", 8},
+                                                        {"AudioSourceType", 10}});
         const QJsonObject third = storedRow("Third", {{"Path", ""}, {"MediaToBin", "Nowhere"}});
         open(QJsonArray{storedRow("First"), second, third});
         QCOMPARE(shownSettings(), QStringLiteral("/media/rec | %P | MP4 | no split | None | PGM | PGM | H.264"));
         rows()->setCurrentRow(1);
-        QCOMPARE(shownSettings(), QStringLiteral("/media/clips | %S | AVI | 15 minutes | CLIP 1 | PGM(Clean) | PVW | MJPEG"));
+        QCOMPARE(shownSettings(),
+                 QStringLiteral("/media/clips | %S | AVI | 15 minutes | CLIP 1 | PGM(Clean) | PVW | MJPEG"));
         // An empty path keeps the folder; an unknown bin falls back to "None".
         rows()->setCurrentRow(2);
         QCOMPARE(shownSettings(), QStringLiteral("/media/clips | %P | MP4 | no split | None | PGM | PGM | H.264"));
@@ -437,11 +441,12 @@ private:
     // Folder, name, format, split, bin, sources and codec as the form shows them.
     QString shownSettings() const
     {
+        const QString split = control<QCheckBox>("splitFile")->isChecked() ? control("splitTimeList")->currentText()
+                                                                            : "no split";
         return QStringList{control<QLineEdit>("folder")->text(), control<QLineEdit>("fileTag")->text(),
-                           control("containerList")->currentText(),
-                           control<QCheckBox>("splitFile")->isChecked() ? control("splitTimeList")->currentText() : "no split",
-                           control("mediaToBin")->currentText(), control("videoSourceList")->currentText(),
-                           control("audioSourceList")->currentText(), encoderList()->currentPreset().videoCodec().codec}
+                           control("containerList")->currentText(), split, control("mediaToBin")->currentText(),
+                           control("videoSourceList")->currentText(), control("audioSourceList")->currentText(),
+                           encoderList()->currentPreset().videoCodec().codec}
             .join(" | ");
     }
     QJsonArray stored() const { return m_host->settings().value("RECORDING").toArray(); }

@@ -47,10 +47,13 @@ private slots:
         QTest::newRow("automatic rate") << videoOnly("H.264", 1080, 0) << "H.264 1080 AUTO";
         QTest::newRow("negative rate") << videoOnly("HEVC", 720, -5, 1) << "HEVC 720 AUTO";
         QTest::newRow("ProRes above range") << videoOnly("Apple ProRes", 1080, 25, 0, 9) << "Apple ProRes 1080p25 XQ";
-        QTest::newRow("ProRes below range") << videoOnly("Apple ProRes", 1080, 25, 0, -1) << "Apple ProRes 1080p25 PROXY";
-        QTest::newRow("profile only for the exact name") << videoOnly("apple prores", 1080, 25, 0, 3) << "apple prores 1080p25";
+        QTest::newRow("ProRes below range")
+            << videoOnly("Apple ProRes", 1080, 25, 0, -1) << "Apple ProRes 1080p25 PROXY";
+        QTest::newRow("profile only for the exact name")
+            << videoOnly("apple prores", 1080, 25, 0, 3) << "apple prores 1080p25";
         const CodecPreset base = videoOnly("H.264", 1080, 50);
-        QTest::newRow("six channels are Mono") << withAudio(base, "AC3", 6, 48000, 384) << "H.264 1080p50, AC3Mono 48kHz 384kbps";
+        QTest::newRow("six channels are Mono")
+            << withAudio(base, "AC3", 6, 48000, 384) << "H.264 1080p50, AC3Mono 48kHz 384kbps";
         QTest::newRow("no audio rate") << withAudio(base, "PCM", 1, 44100, 0) << "H.264 1080p50, PCMMono 44.1kHz";
         CodecPreset audioOnly = withAudio(base, "AAC", 2, 22050, 64);
         audioOnly.videoCodec().enabled = false;
@@ -131,9 +134,10 @@ private slots:
         QStringList keys;
         for (auto it = QRegularExpression("\"(\\w+)\":").globalMatch(QString::fromUtf8(text)); it.hasNext();)
             keys << it.next().captured(1);
-        QCOMPARE(keys.join(' '), QStringLiteral("VideoCodec Codec Width Height FrameRate Field KeyFrame BitRate Quality "
-                                                "Preset Tune Profile Bframes AudioCodec Enabled Codec Channels SampleRate "
-                                                "BitRate BitPerSamples"));
+        QCOMPARE(keys.join(' '),
+                 QStringLiteral("VideoCodec Codec Width Height FrameRate Field KeyFrame BitRate Quality "
+                                "Preset Tune Profile Bframes AudioCodec Enabled Codec Channels SampleRate "
+                                "BitRate BitPerSamples"));
         QVERIFY(text.contains("\n    \"VideoCodec\": {\n        \"Codec\": \"H.264\",\n"));
         const QJsonObject video = QJsonDocument::fromJson(text).object().value("VideoCodec").toObject();
         QVERIFY(video.value("FrameRate").isDouble());
@@ -148,13 +152,15 @@ private slots:
         QTest::newRow("well typed") << QByteArray(R"({"VideoCodec":{"Codec":"HEVC","Width":1280,"FrameRate":50},)"
                                                   R"("AudioCodec":{"Enabled":true}})")
                                     << "HEVC 1280 50 on";
-        QTest::newRow("strings for numbers and bool") << QByteArray(R"({"VideoCodec":{"Codec":"HEVC","Width":"1280",)"
-                                                                    R"("FrameRate":"50"},"AudioCodec":{"Enabled":"true"}})")
-                                                      << "HEVC 0 0 off";
+        QTest::newRow("strings for numbers and bool")
+            << QByteArray(R"({"VideoCodec":{"Codec":"HEVC","Width":"1280",)"
+                          R"("FrameRate":"50"},"AudioCodec":{"Enabled":"true"}})")
+            << "HEVC 0 0 off";
         QTest::newRow("number for string, fraction for int")
             << QByteArray(R"({"VideoCodec":{"Codec":264,"Width":1280.5,"FrameRate":29.97},"AudioCodec":{"Enabled":1}})")
             << " 0 29.97 off";
-        QTest::newRow("parts that are not objects") << QByteArray(R"({"VideoCodec":[1280],"AudioCodec":"AAC"})") << " 0 0 off";
+        QTest::newRow("parts that are not objects")
+            << QByteArray(R"({"VideoCodec":[1280],"AudioCodec":"AAC"})") << " 0 0 off";
     }
     void mistypedMembersReadAsDefaults()
     {
@@ -165,7 +171,10 @@ private slots:
         stores.codecManager().reloadPresets();
         QCOMPARE(stores.codecManager().codecPresets().size(), 1);
         const CodecPreset& p = stores.codecManager().codecPresets().first();
-        QCOMPARE(QString("%1 %2 %3 %4").arg(p.videoCodec().codec).arg(p.videoCodec().width).arg(p.videoCodec().frameRate)
+        QCOMPARE(QString("%1 %2 %3 %4")
+                     .arg(p.videoCodec().codec)
+                     .arg(p.videoCodec().width)
+                     .arg(p.videoCodec().frameRate)
                      .arg(p.audioCodec().enabled ? "on" : "off"),
                  read);
     }

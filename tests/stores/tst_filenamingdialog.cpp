@@ -29,7 +29,8 @@ private slots:
         QTest::addColumn<bool>("accept");
 
         QTest::newRow("preset, default recording tag")
-            << false << "%P %Y-%M-%D %h-%m-%s %C_%B_%R" << "Main 2024-03-07 09-05-02 H.264_6000Kbps_1280x720.mov" << true;
+            << false << "%P %Y-%M-%D %h-%m-%s %C_%B_%R"
+            << "Main 2024-03-07 09-05-02 H.264_6000Kbps_1280x720.mov" << true;
         QTest::newRow("preset, unknown token") << false << "%X%" << "%X%.mov" << true;
         // The caller's record changes as the operator types; callers wanting undo pass a copy.
         QTest::newRow("preset, emptied and cancelled") << false << "" << "Untitled.mov" << false;

@@ -45,7 +45,8 @@ class MarkingTranslator : public QTranslator
 public:
     QString translate(const char* context, const char* source, const char*, int) const override
     {
-        return QLatin1String(context) == QLatin1String("FileTag") ? QString("<%1>").arg(QLatin1String(source)) : QString();
+        return QLatin1String(context) == QLatin1String("FileTag") ? QString("<%1>").arg(QLatin1String(source))
+                                                                  : QString();
     }
     bool isEmpty() const override { return false; }
 };
@@ -67,8 +68,8 @@ private slots:
         QTest::addColumn<bool>("withExtension");
         QTest::addColumn<QString>("name");
 
-        QTest::newRow("every token") << withSources(recording("%P %Y-%M-%D %h-%m-%s %C_%B_%R %S"), QString(), {0}) << true
-                                     << "Main 2024-03-07 09-05-02 H.264_6000Kbps_1920x1080 PGM.mp4";
+        QTest::newRow("every token") << withSources(recording("%P %Y-%M-%D %h-%m-%s %C_%B_%R %S"), QString(), {0})
+                                     << true << "Main 2024-03-07 09-05-02 H.264_6000Kbps_1920x1080 PGM.mp4";
         QTest::newRow("empty tag") << recording(QString()) << true << "Untitled.mp4";
         QTest::newRow("doubled percent") << recording("%%Y") << false << "%2024";
         QTest::newRow("trailing percent") << recording("take %") << false << "take %";
@@ -85,7 +86,8 @@ private slots:
 
         QTest::newRow("source name wins") << withSources(recording("[%S]"), "Cam 1", {0}) << false << "[Cam 1]";
         QTest::newRow("clean programme") << withSources(recording("[%S]"), QString(), {1}) << false << "[PGM CLEAN]";
-        QTest::newRow("lowest key counts") << withSources(recording("[%S]"), QString(), {2, 1}) << false << "[PGM CLEAN]";
+        QTest::newRow("lowest key counts")
+            << withSources(recording("[%S]"), QString(), {2, 1}) << false << "[PGM CLEAN]";
         QTest::newRow("other source") << withSources(recording("[%S]"), QString(), {5}) << false << "[]";
     }
     void codecPresetTags()

@@ -48,7 +48,8 @@ private slots:
 
         QTemporaryDir dir;
         for (const QString& name : existing)
-            QVERIFY(name.endsWith('/') ? QDir(dir.path()).mkdir(name.chopped(1)) : TestKit::writeFile(dir.filePath(name), {}));
+            QVERIFY(name.endsWith('/') ? QDir(dir.path()).mkdir(name.chopped(1))
+                                       : TestKit::writeFile(dir.filePath(name), {}));
 
         const QString path = ImageSetup::localPath(grab(dir.path(), tag));
         QCOMPARE(path, dir.path() + QDir::separator() + expected);

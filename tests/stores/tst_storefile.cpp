@@ -256,7 +256,8 @@ private slots:
             stores.writeServerFile(QLatin1String(name), goodServer);
         const QList<int> sizes{4095, 16384, 16385, 300000};
         for (int size : sizes)
-            stores.writeServerFile(QString("size %1.json").arg(size), R"({"Title":")" + QByteArray(size, 't') + R"("})");
+            stores.writeServerFile(QString("size %1.json").arg(size),
+                                   R"({"Title":")" + QByteArray(size, 't') + R"("})");
         // Valid, but no preset is anywhere near this big: not loaded.
         stores.writeServerFile("oversized.json", goodServer + QByteArray(17 * 1024 * 1024, ' '));
 

@@ -86,7 +86,8 @@ private slots:
         QCOMPARE(modeBits(path), 0600);
 
         // An older, world-readable file is tightened when it is saved again.
-        QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther));
+        QVERIFY(
+            QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther));
         QCOMPARE(modeBits(path), 0644);
         QVERIFY(stores.streamingManager().write(srtChannel("Main"), account(false)));
         QCOMPARE(modeBits(path), 0600);
