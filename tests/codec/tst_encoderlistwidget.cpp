@@ -7,9 +7,6 @@
 #include "tempstores.h"
 #include "testkit.h"
 
-#include <QDialogButtonBox>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QSettings>
 #include <QToolButton>
 #include <QtTest>
