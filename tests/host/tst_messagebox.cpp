@@ -11,25 +11,8 @@ class tst_MessageBox : public QObject
 {
     Q_OBJECT
 
-    using Shown = MessageBox::Shown;
     using Kind = MessageBox::Kind;
-
-    static QMessageBox::StandardButton call(Kind kind, const QString& title, const QString& text,
-                                            QMessageBox::StandardButtons buttons,
-                                            QMessageBox::StandardButton defaultButton)
-    {
-        switch (kind) {
-        case Kind::Information:
-            return MessageBox::information(nullptr, title, text, buttons, defaultButton);
-        case Kind::Question:
-            return MessageBox::question(nullptr, title, text, buttons, defaultButton);
-        case Kind::Warning:
-            return MessageBox::warning(nullptr, title, text, buttons, defaultButton);
-        case Kind::Critical:
-            return MessageBox::critical(nullptr, title, text, buttons, defaultButton);
-        }
-        return QMessageBox::NoButton;
-    }
+    using Button = QMessageBox::StandardButton;
 
 private slots:
     void initTestCase() { MessageBox::setScripted(true); }
@@ -39,97 +22,72 @@ private slots:
     {
         QTest::addColumn<Kind>("kind");
         QTest::addColumn<QMessageBox::StandardButtons>("buttons");
-        QTest::addColumn<QMessageBox::StandardButton>("defaultButton");
-        QTest::addColumn<QMessageBox::StandardButton>("expected");
+        QTest::addColumn<Button>("defaultButton");
+        QTest::addColumn<Button>("expected");
 
         QTest::newRow("information takes its only button")
             << Kind::Information << QMessageBox::StandardButtons(QMessageBox::Ok) << QMessageBox::NoButton
             << QMessageBox::Ok;
-        QTest::newRow("question without default takes Yes")
-            << Kind::Question << QMessageBox::StandardButtons(QMessageBox::Yes | QMessageBox::No)
-            << QMessageBox::NoButton << QMessageBox::Yes;
-        QTest::newRow("question with default No takes No")
-            << Kind::Question << QMessageBox::StandardButtons(QMessageBox::Yes | QMessageBox::No) << QMessageBox::No
-            << QMessageBox::No;
-        QTest::newRow("warning with default Cancel")
-            << Kind::Warning << QMessageBox::StandardButtons(QMessageBox::Ok | QMessageBox::Cancel)
-            << QMessageBox::Cancel << QMessageBox::Cancel;
+        QTest::newRow("question without default takes Yes") << Kind::Question << (QMessageBox::Yes | QMessageBox::No)
+                                                            << QMessageBox::NoButton << QMessageBox::Yes;
+        QTest::newRow("question with default No takes No") << Kind::Question << (QMessageBox::Yes | QMessageBox::No)
+                                                           << QMessageBox::No << QMessageBox::No;
         QTest::newRow("critical takes the lowest button bit")
-            << Kind::Critical << QMessageBox::StandardButtons(QMessageBox::Close | QMessageBox::Save)
-            << QMessageBox::NoButton << QMessageBox::Save;
-        QTest::newRow("no buttons at all")
-            << Kind::Warning << QMessageBox::StandardButtons() << QMessageBox::NoButton << QMessageBox::NoButton;
+            << Kind::Critical << (QMessageBox::Close | QMessageBox::Save) << QMessageBox::NoButton << QMessageBox::Save;
+        QTest::newRow("no buttons at all") << Kind::Warning << QMessageBox::StandardButtons() << QMessageBox::NoButton
+                                           << QMessageBox::NoButton;
     }
     void scriptedDefaultAnswer()
     {
         QFETCH(Kind, kind);
         QFETCH(QMessageBox::StandardButtons, buttons);
-        QFETCH(QMessageBox::StandardButton, defaultButton);
-        QFETCH(QMessageBox::StandardButton, expected);
+        QFETCH(Button, defaultButton);
+        QFETCH(Button, expected);
 
-        QCOMPARE(call(kind, QStringLiteral("Preset"), QStringLiteral("Some text."), buttons, defaultButton), expected);
+        using Show = Button (*)(QWidget*, const QString&, const QString&, QMessageBox::StandardButtons, Button);
+        const QMap<Kind, Show> show{{Kind::Information, &MessageBox::information},
+                                    {Kind::Question, &MessageBox::question},
+                                    {Kind::Warning, &MessageBox::warning},
+                                    {Kind::Critical, &MessageBox::critical}};
+        QCOMPARE(show.value(kind)(nullptr, "Preset", "Some text.", buttons, defaultButton), expected);
         QCOMPARE(MessageBox::shown().size(), 1);
         QVERIFY(MessageBox::lastShown().kind == kind);
     }
 
-    void queuedAnswersComeFirstInOrder()
+    void queuedAnswersAndRecordsInOrder()
     {
         MessageBox::setNextAnswer(QMessageBox::No);
         MessageBox::setNextAnswer(QMessageBox::Cancel);
-
-        QCOMPARE(MessageBox::question(nullptr, QStringLiteral("a"), QStringLiteral("1")), QMessageBox::No);
-        // A queued answer is returned even when it is not among the buttons.
-        QCOMPARE(MessageBox::warning(nullptr, QStringLiteral("b"), QStringLiteral("2")), QMessageBox::Cancel);
-        // The queue is empty again: back to the default answer.
-        QCOMPARE(MessageBox::question(nullptr, QStringLiteral("c"), QStringLiteral("3")), QMessageBox::Yes);
-        QCOMPARE(MessageBox::shown().size(), 3);
-    }
-
-    void queuedAnswerBeatsTheDefaultButton()
-    {
         MessageBox::setNextAnswer(QMessageBox::Yes);
-        QCOMPARE(MessageBox::question(nullptr, QStringLiteral("Preset"), QStringLiteral("Remove?"),
-                                      QMessageBox::Yes | QMessageBox::No, QMessageBox::No),
-                 QMessageBox::Yes);
-    }
 
-    void recordsTitleTextAndKindInOrder()
-    {
-        MessageBox::warning(nullptr, QStringLiteral("Streaming"), QStringLiteral("Check the maximum number of streams."));
-        MessageBox::information(nullptr, QStringLiteral("Preset"), QStringLiteral("Saved."));
-
-        const QList<Shown> shown = MessageBox::shown();
-        QCOMPARE(shown.size(), 2);
-        QCOMPARE(shown.at(0).title, QStringLiteral("Streaming"));
-        QCOMPARE(shown.at(0).text, QStringLiteral("Check the maximum number of streams."));
-        QVERIFY(shown.at(0).kind == Kind::Warning);
-        QCOMPARE(MessageBox::lastShown().title, QStringLiteral("Preset"));
-        QCOMPARE(MessageBox::lastShown().text, QStringLiteral("Saved."));
-        QVERIFY(MessageBox::lastShown().kind == Kind::Information);
-    }
-
-    void questionOfTheStyledBoxGoesThroughTheSeam()
-    {
-        MessageBox::setNextAnswer(QMessageBox::No);
-        QCOMPARE(QMessageBoxEx::question(nullptr, QStringLiteral("Preset"),
-                                         QStringLiteral("Are you sure you want to remove this item?")),
+        // The styled box's question goes through the seam as well.
+        QCOMPARE(QMessageBoxEx::question(nullptr, "Preset", "Are you sure you want to remove this item?"),
                  QMessageBox::No);
-        QCOMPARE(MessageBox::lastShown().text, QStringLiteral("Are you sure you want to remove this item?"));
-        QVERIFY(MessageBox::lastShown().kind == Kind::Question);
-    }
+        // A queued answer is returned even when it is not among the buttons, and beats the default button.
+        QCOMPARE(MessageBox::warning(nullptr, "Streaming", "Check the maximum number of streams."),
+                 QMessageBox::Cancel);
+        QCOMPARE(MessageBox::question(nullptr, "a", "1", QMessageBox::Yes | QMessageBox::No, QMessageBox::No),
+                 QMessageBox::Yes);
+        // The queue is empty again: back to the default answer.
+        QCOMPARE(MessageBox::question(nullptr, "b", "2", QMessageBox::Yes | QMessageBox::No, QMessageBox::No),
+                 QMessageBox::No);
 
-    void clearForgetsBoxesAndAnswersButStaysScripted()
-    {
-        MessageBox::setNextAnswer(QMessageBox::No);
-        MessageBox::critical(nullptr, QStringLiteral("x"), QStringLiteral("y"));
+        const QList<MessageBox::Shown> shown = MessageBox::shown();
+        QCOMPARE(shown.size(), 4);
+        QCOMPARE(shown.at(0).text, QStringLiteral("Are you sure you want to remove this item?"));
+        QVERIFY(shown.at(0).kind == Kind::Question);
+        QCOMPARE(shown.at(1).title, QStringLiteral("Streaming"));
+        QCOMPARE(shown.at(1).text, QStringLiteral("Check the maximum number of streams."));
+        QVERIFY(shown.at(1).kind == Kind::Warning);
+        QCOMPARE(MessageBox::lastShown().title, QStringLiteral("b"));
+
+        // clear() forgets boxes and answers but stays scripted.
         MessageBox::setNextAnswer(QMessageBox::No);
         MessageBox::clear();
-
         QVERIFY(MessageBox::shown().isEmpty());
-        QVERIFY(MessageBox::lastShown().title.isEmpty());
-        QVERIFY(MessageBox::lastShown().text.isEmpty());
+        QVERIFY(MessageBox::lastShown().title.isEmpty() && MessageBox::lastShown().text.isEmpty());
         QVERIFY(MessageBox::isScripted());
-        QCOMPARE(MessageBox::question(nullptr, QStringLiteral("t"), QStringLiteral("u")), QMessageBox::Yes);
+        QCOMPARE(MessageBox::question(nullptr, "t", "u"), QMessageBox::Yes);
     }
 };
 

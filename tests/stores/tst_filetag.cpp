@@ -7,9 +7,7 @@
 
 namespace {
 
-const QDateTime fixedInstant(QDate(2024, 3, 7), QTime(9, 5, 2));
-
-CodecPreset recording(const QString& tag, const QString& codec, int bitRate, int quality = 0)
+CodecPreset recording(const QString& tag, const QString& codec = "H.264", int bitRate = 6000, int quality = 0)
 {
     CodecPreset preset;
     preset.local().fileTag = tag;
@@ -18,8 +16,8 @@ CodecPreset recording(const QString& tag, const QString& codec, int bitRate, int
     preset.videoCodec().width = 1920;
     preset.videoCodec().height = 1080;
     preset.videoCodec().quality = quality;
-    preset.container().name = QStringLiteral("mp4");
-    preset.setName(QStringLiteral("Main"));
+    preset.container().name = "mp4";
+    preset.setName("Main");
     return preset;
 }
 
@@ -31,178 +29,128 @@ CodecPreset withSources(CodecPreset preset, const QString& sourceName, const QLi
     return preset;
 }
 
+Snapshot grab(int source, const QString& tag)
+{
+    Snapshot shot;
+    shot.source = source;
+    shot.extension = "png";
+    shot.name = "Grab";
+    shot.fileTag = tag;
+    return shot;
+}
+
 // Stands in for a loaded translation so the contexts the texts use are checked.
 class MarkingTranslator : public QTranslator
 {
 public:
     QString translate(const char* context, const char* source, const char*, int) const override
     {
-        return QLatin1String(context) == QLatin1String("FileTag") ? QStringLiteral("<%1>").arg(QLatin1String(source))
-                                                                 : QString();
+        return QLatin1String(context) == QLatin1String("FileTag") ? QString("<%1>").arg(QLatin1String(source))
+                                                                  : QString();
     }
     bool isEmpty() const override { return false; }
 };
 
 } // namespace
 
+Q_DECLARE_METATYPE(Snapshot)
+
 class TestFileTag : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void codecPresetTags_data();
-    void codecPresetTags();
-    void snapshotTags_data();
-    void snapshotTags();
-    void oneExpansionReadsTheClockOnce();
-    void textsAreTranslated();
+    void init() { FileTag::setClock([] { return QDateTime(QDate(2024, 3, 7), QTime(9, 5, 2)); }); }
+    void cleanup() { FileTag::resetClock(); }
+    void codecPresetTags_data()
+    {
+        QTest::addColumn<CodecPreset>("preset");
+        QTest::addColumn<bool>("withExtension");
+        QTest::addColumn<QString>("name");
+
+        QTest::newRow("every token") << withSources(recording("%P %Y-%M-%D %h-%m-%s %C_%B_%R %S"), QString(), {0})
+                                     << true << "Main 2024-03-07 09-05-02 H.264_6000Kbps_1920x1080 PGM.mp4";
+        QTest::newRow("empty tag") << recording(QString()) << true << "Untitled.mp4";
+        QTest::newRow("doubled percent") << recording("%%Y") << false << "%2024";
+        QTest::newRow("trailing percent") << recording("take %") << false << "take %";
+        QTest::newRow("percents only") << recording("%%") << false << "%%";
+        QTest::newRow("unknown token") << recording("%X-%Y") << false << "%X-2024";
+        QTest::newRow("case matters") << recording("%y %M %m %S") << false << "%y 03 05 ";
+        QTest::newRow("token then text") << recording("%mmin") << false << "05min";
+
+        QTest::newRow("DV25 fixed rate and size") << recording("%B %R", "DV25", 5000) << false << "28770Kbps 720x480";
+        QTest::newRow("MJPEG in whole Mbps") << recording("%B", "MJPEG", 2500) << false << "2Mbps";
+        QTest::newRow("MJPEG below 1 Mbps") << recording("%B", "MJPEG", 999) << false << "0Mbps";
+        QTest::newRow("ProRes 5 is HQ") << recording("%B %R", "Apple ProRes", 0, 5) << false << "HQ 1920x1080";
+        QTest::newRow("ProRes -2 is PROXY") << recording("%B", "Apple ProRes", 0, -2) << false << "PROXY";
+
+        QTest::newRow("source name wins") << withSources(recording("[%S]"), "Cam 1", {0}) << false << "[Cam 1]";
+        QTest::newRow("clean programme") << withSources(recording("[%S]"), QString(), {1}) << false << "[PGM CLEAN]";
+        QTest::newRow("lowest key counts")
+            << withSources(recording("[%S]"), QString(), {2, 1}) << false << "[PGM CLEAN]";
+        QTest::newRow("other source") << withSources(recording("[%S]"), QString(), {5}) << false << "[]";
+    }
+    void codecPresetTags()
+    {
+        QFETCH(CodecPreset, preset);
+        QFETCH(bool, withExtension);
+        QFETCH(QString, name);
+        QCOMPARE(FileTag::fromCodecPreset(&preset, withExtension), name);
+    }
+
+    void snapshotTags_data()
+    {
+        QTest::addColumn<Snapshot>("shot");
+        QTest::addColumn<bool>("withExtension");
+        QTest::addColumn<QString>("name");
+
+        QTest::newRow("grab default") << grab(0, "%P %Y-%M-%D %h-%m-%s %S") << true
+                                      << "Grab 2024-03-07 09-05-02 PROGRAM.png";
+        QTest::newRow("codec tokens untouched") << grab(0, "%C_%B_%R") << true << "%C_%B_%R.png";
+        QTest::newRow("preview") << grab(2, "%S") << false << "PREVIEW";
+        QTest::newRow("clean preview") << grab(3, "%S") << false << "CLEAN PREVIEW";
+        QTest::newRow("unknown source") << grab(4, "x%Sx") << false << "xx";
+        QTest::newRow("empty tag") << grab(0, QString()) << true << "Untitled.png";
+    }
+    void snapshotTags()
+    {
+        QFETCH(Snapshot, shot);
+        QFETCH(bool, withExtension);
+        QFETCH(QString, name);
+        QCOMPARE(FileTag::fromSnapshot(shot, withExtension), name);
+    }
+
+    void oneExpansionReadsTheClockOnce()
+    {
+        int reads = 0;
+        QDateTime instant(QDate(2024, 12, 31), QTime(23, 59, 59));
+        FileTag::setClock([&] {
+            ++reads;
+            const QDateTime now = instant;
+            instant = instant.addSecs(1);
+            return now;
+        });
+
+        // A clock read per token would mix two years here.
+        const CodecPreset preset = recording("%Y-%M-%D %h:%m:%s %Y");
+        QCOMPARE(FileTag::fromCodecPreset(&preset, false), QStringLiteral("2024-12-31 23:59:59 2024"));
+        QCOMPARE(FileTag::fromSnapshot(grab(0, "%Y %s %Y"), false), QStringLiteral("2025 00 2025"));
+        QCOMPARE(reads, 2);
+    }
+
+    void textsAreTranslated()
+    {
+        MarkingTranslator translator;
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
+
+        const CodecPreset untitled = recording(QString());
+        QCOMPARE(FileTag::fromCodecPreset(&untitled, true), QStringLiteral("<Untitled>.mp4"));
+        const CodecPreset programme = withSources(recording("%S"), QString(), {1});
+        QCOMPARE(FileTag::fromCodecPreset(&programme, false), QStringLiteral("<PGM CLEAN>"));
+        QCOMPARE(FileTag::fromSnapshot(grab(3, "%S"), false), QStringLiteral("<CLEAN PREVIEW>"));
+    }
 };
-
-void TestFileTag::init()
-{
-    FileTag::setClock([] { return fixedInstant; });
-}
-
-void TestFileTag::cleanup()
-{
-    FileTag::resetClock();
-}
-
-void TestFileTag::codecPresetTags_data()
-{
-    QTest::addColumn<CodecPreset>("preset");
-    QTest::addColumn<bool>("withExtension");
-    QTest::addColumn<QString>("name");
-
-    const CodecPreset h264 = recording(QString(), QStringLiteral("H.264"), 6000);
-    auto tagged = [](CodecPreset preset, const QString& tag) {
-        preset.local().fileTag = tag;
-        return preset;
-    };
-
-    QTest::newRow("every token")
-        << withSources(tagged(h264, QStringLiteral("%P %Y-%M-%D %h-%m-%s %C_%B_%R %S")), QString(), {0})
-        << true << QStringLiteral("Main 2024-03-07 09-05-02 H.264_6000Kbps_1920x1080 PGM.mp4");
-    QTest::newRow("without extension") << tagged(h264, QStringLiteral("%Y%M%D")) << false << QStringLiteral("20240307");
-    QTest::newRow("empty tag") << h264 << true << QStringLiteral("Untitled.mp4");
-    QTest::newRow("empty tag, no extension") << h264 << false << QStringLiteral("Untitled");
-    QTest::newRow("doubled percent") << tagged(h264, QStringLiteral("%%Y")) << false << QStringLiteral("%2024");
-    QTest::newRow("year twice") << tagged(h264, QStringLiteral("%Y%Y")) << false << QStringLiteral("20242024");
-    QTest::newRow("trailing percent") << tagged(h264, QStringLiteral("take %")) << false << QStringLiteral("take %");
-    QTest::newRow("percents only") << tagged(h264, QStringLiteral("%%")) << false << QStringLiteral("%%");
-    QTest::newRow("unknown token") << tagged(h264, QStringLiteral("%X-%Y")) << false << QStringLiteral("%X-2024");
-    QTest::newRow("case matters") << tagged(h264, QStringLiteral("%y %M %m %S")) << false << QStringLiteral("%y 03 05 ");
-    QTest::newRow("token then text") << tagged(h264, QStringLiteral("%mmin")) << false << QStringLiteral("05min");
-    QTest::newRow("text before tokens") << tagged(h264, QStringLiteral("Show %h:%m")) << false << QStringLiteral("Show 09:05");
-
-    QTest::newRow("DV25 fixed rate and size") << recording(QStringLiteral("%B %R"), QStringLiteral("DV25"), 5000)
-                                              << false << QStringLiteral("28770Kbps 720x480");
-    QTest::newRow("MJPEG in whole Mbps") << recording(QStringLiteral("%B"), QStringLiteral("MJPEG"), 2500) << false
-                                         << QStringLiteral("2Mbps");
-    QTest::newRow("MJPEG below 1 Mbps") << recording(QStringLiteral("%B"), QStringLiteral("MJPEG"), 999) << false
-                                        << QStringLiteral("0Mbps");
-    QTest::newRow("ProRes 5 is HQ") << recording(QStringLiteral("%B"), QStringLiteral("Apple ProRes"), 0, 5) << false
-                                    << QStringLiteral("HQ");
-    QTest::newRow("ProRes -2 is PROXY") << recording(QStringLiteral("%B"), QStringLiteral("Apple ProRes"), 0, -2)
-                                        << false << QStringLiteral("PROXY");
-    QTest::newRow("ProRes 1 is LT") << recording(QStringLiteral("%B"), QStringLiteral("Apple ProRes"), 0, 1) << false
-                                    << QStringLiteral("LT");
-    QTest::newRow("ProRes keeps its size") << recording(QStringLiteral("%R"), QStringLiteral("Apple ProRes"), 0, 3)
-                                           << false << QStringLiteral("1920x1080");
-
-    const CodecPreset source = recording(QStringLiteral("[%S]"), QStringLiteral("H.264"), 6000);
-    QTest::newRow("source name wins") << withSources(source, QStringLiteral("Cam 1"), {0}) << false
-                                      << QStringLiteral("[Cam 1]");
-    QTest::newRow("programme") << withSources(source, QString(), {0}) << false << QStringLiteral("[PGM]");
-    QTest::newRow("clean programme") << withSources(source, QString(), {1}) << false << QStringLiteral("[PGM CLEAN]");
-    QTest::newRow("preview") << withSources(source, QString(), {2}) << false << QStringLiteral("[PVW]");
-    QTest::newRow("lowest key counts") << withSources(source, QString(), {2, 1}) << false
-                                       << QStringLiteral("[PGM CLEAN]");
-    QTest::newRow("other source") << withSources(source, QString(), {5}) << false << QStringLiteral("[]");
-    QTest::newRow("no source") << source << false << QStringLiteral("[]");
-}
-
-void TestFileTag::codecPresetTags()
-{
-    QFETCH(CodecPreset, preset);
-    QFETCH(bool, withExtension);
-    QFETCH(QString, name);
-    QCOMPARE(FileTag::fromCodecPreset(&preset, withExtension), name);
-}
-
-void TestFileTag::snapshotTags_data()
-{
-    QTest::addColumn<int>("source");
-    QTest::addColumn<QString>("tag");
-    QTest::addColumn<bool>("withExtension");
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("grab default") << 0 << QStringLiteral("%P %Y-%M-%D %h-%m-%s %S") << true
-                                  << QStringLiteral("Grab 2024-03-07 09-05-02 PROGRAM.png");
-    QTest::newRow("codec tokens untouched") << 0 << QStringLiteral("%C_%B_%R") << true << QStringLiteral("%C_%B_%R.png");
-    QTest::newRow("clean programme") << 1 << QStringLiteral("%S") << false << QStringLiteral("CLEAN PROGRAM");
-    QTest::newRow("preview") << 2 << QStringLiteral("%S") << false << QStringLiteral("PREVIEW");
-    QTest::newRow("clean preview") << 3 << QStringLiteral("%S") << false << QStringLiteral("CLEAN PREVIEW");
-    QTest::newRow("unknown source") << 4 << QStringLiteral("x%Sx") << false << QStringLiteral("xx");
-    QTest::newRow("empty tag") << 0 << QString() << true << QStringLiteral("Untitled.png");
-    QTest::newRow("doubled percent") << 0 << QStringLiteral("%%s") << false << QStringLiteral("%02");
-}
-
-void TestFileTag::snapshotTags()
-{
-    QFETCH(int, source);
-    QFETCH(QString, tag);
-    QFETCH(bool, withExtension);
-    QFETCH(QString, name);
-
-    Snapshot shot;
-    shot.source = source;
-    shot.extension = QStringLiteral("png");
-    shot.name = QStringLiteral("Grab");
-    shot.fileTag = tag;
-    QCOMPARE(FileTag::fromSnapshot(shot, withExtension), name);
-}
-
-void TestFileTag::oneExpansionReadsTheClockOnce()
-{
-    int reads = 0;
-    QDateTime instant(QDate(2024, 12, 31), QTime(23, 59, 59));
-    FileTag::setClock([&] {
-        ++reads;
-        const QDateTime now = instant;
-        instant = instant.addSecs(1);
-        return now;
-    });
-
-    // A clock read per token would mix two years here.
-    const CodecPreset preset = recording(QStringLiteral("%Y-%M-%D %h:%m:%s %Y"), QStringLiteral("H.264"), 1);
-    QCOMPARE(FileTag::fromCodecPreset(&preset, false), QStringLiteral("2024-12-31 23:59:59 2024"));
-    QCOMPARE(reads, 1);
-
-    Snapshot shot;
-    shot.fileTag = QStringLiteral("%Y %s %Y");
-    QCOMPARE(FileTag::fromSnapshot(shot, false), QStringLiteral("2025 00 2025"));
-    QCOMPARE(reads, 2);
-}
-
-void TestFileTag::textsAreTranslated()
-{
-    MarkingTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
-
-    const CodecPreset untitled = recording(QString(), QStringLiteral("H.264"), 1);
-    QCOMPARE(FileTag::fromCodecPreset(&untitled, true), QStringLiteral("<Untitled>.mp4"));
-    const CodecPreset programme = withSources(recording(QStringLiteral("%S"), QStringLiteral("H.264"), 1), QString(), {1});
-    QCOMPARE(FileTag::fromCodecPreset(&programme, false), QStringLiteral("<PGM CLEAN>"));
-
-    Snapshot shot;
-    shot.source = 3;
-    shot.fileTag = QStringLiteral("%S");
-    QCOMPARE(FileTag::fromSnapshot(shot, false), QStringLiteral("<CLEAN PREVIEW>"));
-}
 
 QTEST_GUILESS_MAIN(TestFileTag)
 #include "tst_filetag.moc"

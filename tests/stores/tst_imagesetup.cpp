@@ -1,19 +1,17 @@
 #include "filetag.h"
 #include "imagesetup.h"
+#include "testkit.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
 
-Snapshot grab(const QString& directory, const QString& tag, const QString& extension = QStringLiteral("png"))
+Snapshot grab(const QString& directory, const QString& tag, const QString& extension = "png")
 {
     Snapshot shot;
-    shot.source = 0;
     shot.extension = extension;
-    shot.name = QStringLiteral("shot");
+    shot.name = "shot";
     shot.directory = directory;
     shot.fileTag = tag;
     return shot;
@@ -26,91 +24,53 @@ class TestImageSetup : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void nextFreeName_data();
-    void nextFreeName();
-    void missingDirectoryIsCreated();
-    void tagFromNameExpandsTheGrabTag();
-};
+    void init() { FileTag::setClock([] { return QDateTime(QDate(2024, 3, 7), QTime(9, 5, 2)); }); }
+    void cleanup() { FileTag::resetClock(); }
+    void nextFreeName_data()
+    {
+        QTest::addColumn<QStringList>("existing");
+        QTest::addColumn<QString>("tag");
+        QTest::addColumn<QString>("expected");
 
-void TestImageSetup::init()
-{
-    FileTag::setClock([] { return QDateTime(QDate(2024, 3, 7), QTime(9, 5, 2)); });
-}
+        QTest::newRow("empty directory") << QStringList{} << "%P" << "shot.png";
+        QTest::newRow("two taken") << QStringList{"shot.png", "shot 2.png"} << "%P" << "shot 3.png";
+        QTest::newRow("first gap") << QStringList{"shot.png", "shot 3.png"} << "%P" << "shot 2.png";
+        QTest::newRow("other format") << QStringList{"shot.jpg"} << "%P" << "shot.png";
+        QTest::newRow("directory in the way") << QStringList{"shot.png/"} << "%P" << "shot 2.png";
+        QTest::newRow("expanded tag") << QStringList{"shot 09-05 PROGRAM.png"} << "%P %h-%m %S"
+                                      << "shot 09-05 PROGRAM 2.png";
+    }
+    void nextFreeName()
+    {
+        QFETCH(QStringList, existing);
+        QFETCH(QString, tag);
+        QFETCH(QString, expected);
 
-void TestImageSetup::cleanup()
-{
-    FileTag::resetClock();
-}
+        QTemporaryDir dir;
+        for (const QString& name : existing)
+            QVERIFY(name.endsWith('/') ? QDir(dir.path()).mkdir(name.chopped(1))
+                                       : TestKit::writeFile(dir.filePath(name), {}));
 
-void TestImageSetup::nextFreeName_data()
-{
-    QTest::addColumn<QStringList>("existing");
-    QTest::addColumn<QString>("tag");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("empty directory") << QStringList{} << QStringLiteral("%P") << QStringLiteral("shot.png");
-    QTest::newRow("one taken") << QStringList{QStringLiteral("shot.png")} << QStringLiteral("%P")
-                               << QStringLiteral("shot 2.png");
-    QTest::newRow("two taken") << QStringList{QStringLiteral("shot.png"), QStringLiteral("shot 2.png")}
-                               << QStringLiteral("%P") << QStringLiteral("shot 3.png");
-    QTest::newRow("first gap") << QStringList{QStringLiteral("shot.png"), QStringLiteral("shot 3.png")}
-                               << QStringLiteral("%P") << QStringLiteral("shot 2.png");
-    QTest::newRow("other format") << QStringList{QStringLiteral("shot.jpg")} << QStringLiteral("%P")
-                                  << QStringLiteral("shot.png");
-    QTest::newRow("directory in the way") << QStringList{QStringLiteral("shot.png/")} << QStringLiteral("%P")
-                                          << QStringLiteral("shot 2.png");
-    QTest::newRow("expanded tag") << QStringList{QStringLiteral("shot 09-05 PROGRAM.png")}
-                                  << QStringLiteral("%P %h-%m %S") << QStringLiteral("shot 09-05 PROGRAM 2.png");
-}
-
-void TestImageSetup::nextFreeName()
-{
-    QFETCH(QStringList, existing);
-    QFETCH(QString, tag);
-    QFETCH(QString, expected);
-
-    QTemporaryDir dir;
-    QVERIFY(dir.isValid());
-    for (const QString& name : existing) {
-        if (name.endsWith(QLatin1Char('/'))) {
-            QVERIFY(QDir(dir.path()).mkdir(name.chopped(1)));
-        } else {
-            QFile file(dir.filePath(name));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-        }
+        const QString path = ImageSetup::localPath(grab(dir.path(), tag));
+        QCOMPARE(path, dir.path() + QDir::separator() + expected);
+        // Nothing is created but what is asked for.
+        QCOMPARE(TestKit::entries(dir.path()).size(), existing.size());
     }
 
-    const QString path = ImageSetup::localPath(grab(dir.path(), tag));
-    QCOMPARE(path, dir.path() + QDir::separator() + expected);
-    QVERIFY(!QFileInfo::exists(path));
-    // Nothing is created but what is asked for: the directory listing is unchanged.
-    QCOMPARE(QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), existing.size());
-}
+    void missingDirectoryIsCreated()
+    {
+        QTemporaryDir dir;
+        const QString nested = dir.path() + "/grabs/today";
+        const QString path = ImageSetup::localPath(grab(nested, "%P", "jpg"));
+        QCOMPARE(path, nested + "/shot.jpg");
+        QVERIFY(QFileInfo(nested).isDir());
+        QVERIFY(!QFileInfo::exists(path));
 
-void TestImageSetup::missingDirectoryIsCreated()
-{
-    QTemporaryDir dir;
-    const QString nested = dir.path() + QStringLiteral("/grabs/today");
-    const QString path = ImageSetup::localPath(grab(nested, QStringLiteral("%P"), QStringLiteral("jpg")));
-    QCOMPARE(path, nested + QStringLiteral("/shot.jpg"));
-    QVERIFY(QFileInfo(nested).isDir());
-    QVERIFY(!QFileInfo::exists(path));
-
-    // A tag with folders in it makes them too.
-    const QString dated = ImageSetup::localPath(grab(nested, QStringLiteral("%Y/%M/%P")));
-    QCOMPARE(dated, nested + QStringLiteral("/2024/03/shot.png"));
-    QVERIFY(QFileInfo(nested + QStringLiteral("/2024/03")).isDir());
-}
-
-void TestImageSetup::tagFromNameExpandsTheGrabTag()
-{
-    Snapshot shot = grab(QStringLiteral("/unused"), QStringLiteral("%P %S %C"));
-    shot.source = 2;
-    QCOMPARE(ImageSetup::tagFromName(shot, false), QStringLiteral("shot PREVIEW %C"));
-    QCOMPARE(ImageSetup::tagFromName(shot, true), QStringLiteral("shot PREVIEW %C.png"));
-}
+        // A tag with folders in it makes them too.
+        QCOMPARE(ImageSetup::localPath(grab(nested, "%Y/%M/%P")), nested + "/2024/03/shot.png");
+        QVERIFY(QFileInfo(nested + "/2024/03").isDir());
+    }
+};
 
 QTEST_GUILESS_MAIN(TestImageSetup)
 #include "tst_imagesetup.moc"

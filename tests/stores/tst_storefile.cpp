@@ -1,18 +1,20 @@
+#include "filesizelimit.h"
 #include "tempstores.h"
+#include "testkit.h"
 
-#include <QDir>
-#include <QFile>
 #include <QRandomGenerator>
 #include <QtTest>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace TestKit;
+
 namespace {
 
 enum class BadEntry { Bytes, Unreadable, Directory, SymLinkToFile, DanglingSymLink, Fifo };
 
-const QByteArray goodCodec = R"({"VideoCodec":{"Codec":"H.264","Height":1080},"AudioCodec":{"Enabled":true}})";
+const QByteArray goodCodec = R"({"VideoCodec":{"Codec":"Good","Height":1080},"AudioCodec":{"Enabled":true}})";
 const QByteArray goodServer = R"({"Title":"Good","StreamUrl":"rtmp://a.test/live"})";
 
 QByteArray randomBytes(int size)
@@ -24,176 +26,249 @@ QByteArray randomBytes(int size)
     return bytes;
 }
 
+// The two stores behind one face: a preset is a name (codec name or server title) and a value
+// (the x264 tune or the stream key), neither of which changes the file name.
+struct Store {
+    TempStores& stores;
+    bool server;
+
+    QString dir() const { return server ? stores.serverDir() : stores.codecDir(); }
+    static CodecPreset codec(const QString& name, const QString& value = QString())
+    {
+        CodecPreset p = preset(name, 1080, 6000);
+        p.videoCodec().tune = value;
+        return p;
+    }
+    bool write(const QString& name, const QString& value)
+    {
+        if (!server)
+            return stores.codecManager().write(codec(name, value));
+        Channel channel;
+        channel.title = name;
+        channel.key = value;
+        return stores.streamingManager().write(channel, OAuth());
+    }
+    bool remove(const QString& name)
+    {
+        return server ? stores.streamingManager().remove(name) : stores.codecManager().remove(codec(name));
+    }
+    // Each preset a reload finds, as "name=value".
+    QStringList loaded()
+    {
+        QStringList list;
+        if (server) {
+            stores.streamingManager().reloadPresets();
+            for (const ServerInfo& info : stores.streamingManager().serverInfos())
+                list << info.channel.title + '=' + info.channel.key;
+        } else {
+            stores.codecManager().reloadPresets();
+            for (const CodecPreset& p : stores.codecManager().codecPresets())
+                list << p.videoCodec().codec + '=' + p.videoCodec().tune;
+        }
+        return list;
+    }
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(BadEntry)
 
-// Whatever sits in a store directory, a reload keeps the good presets and nothing crashes.
+// What both stores promise about their files: bad ones are skipped, names never leave the
+// directory, a failed write loses nothing.
 class TestStoreFile : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void badEntriesAreSkipped_data();
-    void badEntriesAreSkipped();
-    void manyBadFilesAmongGoodOnes();
-    void suffixMatchesInAnyCase();
-    void largeFilesLoadWhole();
-};
+    void badEntriesAreSkipped_data()
+    {
+        QTest::addColumn<bool>("server");
+        QTest::addColumn<BadEntry>("kind");
+        QTest::addColumn<QByteArray>("contents");
 
-void TestStoreFile::badEntriesAreSkipped_data()
-{
-    QTest::addColumn<bool>("serverStore");
-    QTest::addColumn<BadEntry>("kind");
-    QTest::addColumn<QByteArray>("contents");
-
-    const struct {
-        const char* name;
-        BadEntry kind;
-        QByteArray contents;
-    } cases[] = {
-        {"0-byte file", BadEntry::Bytes, QByteArray()},
-        {"truncated JSON", BadEntry::Bytes, goodCodec.left(30)},
-        {"array", BadEntry::Bytes, "[]"},
-        {"array of objects", BadEntry::Bytes, "[" + goodCodec + "]"},
-        {"empty object", BadEntry::Bytes, "{}"},
-        {"scalar", BadEntry::Bytes, "42"},
-        {"random bytes", BadEntry::Bytes, randomBytes(4096)},
-        {"NUL bytes", BadEntry::Bytes, QByteArray(64, '\0')},
-        {"deep nesting", BadEntry::Bytes, QByteArray(100000, '[')},
-        {"unreadable file", BadEntry::Unreadable, goodCodec},
-        {"directory named x.json", BadEntry::Directory, QByteArray()},
-        {"symbolic link to a preset", BadEntry::SymLinkToFile, goodCodec},
-        {"dangling symbolic link", BadEntry::DanglingSymLink, QByteArray()},
-        {"named pipe", BadEntry::Fifo, QByteArray()},
-    };
-    for (const auto& c : cases) {
-        QTest::addRow("codec store, %s", c.name) << false << c.kind << c.contents;
-        QTest::addRow("server store, %s", c.name) << true << c.kind << c.contents;
-    }
-}
-
-void TestStoreFile::badEntriesAreSkipped()
-{
-    QFETCH(bool, serverStore);
-    QFETCH(BadEntry, kind);
-    QFETCH(QByteArray, contents);
-
-    TempStores stores;
-    const QString dir = serverStore ? stores.serverDir() : stores.codecDir();
-    const QByteArray good = serverStore ? goodServer : goodCodec;
-    serverStore ? stores.writeServerFile(QStringLiteral("good.json"), good)
-                : stores.writeCodecFile(QStringLiteral("good.json"), good);
-
-    const QString bad = dir + QStringLiteral("/x.json");
-    const QString outside = stores.root() + QStringLiteral("/outside.json");
-    switch (kind) {
-    case BadEntry::Bytes:
-    case BadEntry::Unreadable: {
-        QFile file(bad);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(contents), qint64(contents.size()));
-        file.close();
-        if (kind == BadEntry::Unreadable)
-            QVERIFY(file.setPermissions(QFileDevice::Permissions()));
-        break;
-    }
-    case BadEntry::Directory:
-        QVERIFY(QDir(dir).mkdir(QStringLiteral("x.json")));
-        QVERIFY(QFile(dir + QStringLiteral("/x.json/inner.json")).open(QIODevice::WriteOnly));
-        break;
-    case BadEntry::SymLinkToFile: {
-        QFile target(outside);
-        QVERIFY(target.open(QIODevice::WriteOnly));
-        target.write(good);
-        target.close();
-        QVERIFY(QFile::link(outside, bad));
-        break;
-    }
-    case BadEntry::DanglingSymLink:
-        QVERIFY(QFile::link(stores.root() + QStringLiteral("/missing.json"), bad));
-        break;
-    case BadEntry::Fifo:
-        // Opening a pipe for reading would block the host until a writer came.
-        QCOMPARE(::mkfifo(QFile::encodeName(bad).constData(), 0600), 0);
-        break;
-    }
-
-    // Root reads files whatever their permission bits: read as nobody instead.
-    const bool asNobody = kind == BadEntry::Unreadable && ::geteuid() == 0;
-    const auto restore = qScopeGuard([asNobody] {
-        if (asNobody && (::seteuid(0) != 0 || ::setegid(0) != 0))
-            qFatal("cannot return to root");
-    });
-    if (asNobody) {
-        for (const QString& path : {stores.root(), dir})
-            QVERIFY(QFile::setPermissions(path, QFile::permissions(path) | QFile::ExeOther | QFile::ReadOther));
-        QCOMPARE(::setegid(65534), 0);
-        QCOMPARE(::seteuid(65534), 0);
-    }
-
-    if (serverStore) {
-        stores.streamingManager().reloadPresets();
-        QCOMPARE(stores.streamingManager().serverInfos().size(), 1);
-        QCOMPARE(stores.streamingManager().serverInfos().first().channel.title, QStringLiteral("Good"));
-    } else {
-        stores.codecManager().reloadPresets();
-        QCOMPARE(stores.codecManager().codecPresets().size(), 1);
-        QCOMPARE(stores.codecManager().codecPresets().first().videoCodec().height, 1080);
-    }
-}
-
-void TestStoreFile::manyBadFilesAmongGoodOnes()
-{
-    TempStores stores;
-    for (int n = 0; n < 50; ++n) {
-        stores.writeCodecFile(QStringLiteral("good %1.json").arg(n), goodCodec);
-        stores.writeCodecFile(QStringLiteral("bad %1.json").arg(n), randomBytes(n * 7));
-        stores.writeServerFile(QStringLiteral("good %1.json").arg(n), goodServer);
-        stores.writeServerFile(QStringLiteral("bad %1.json").arg(n), goodServer.left(n % goodServer.size()));
-    }
-    stores.codecManager().reloadPresets();
-    stores.streamingManager().reloadPresets();
-    QCOMPARE(stores.codecManager().codecPresets().size(), 50);
-    QCOMPARE(stores.streamingManager().serverInfos().size(), 50);
-}
-
-void TestStoreFile::suffixMatchesInAnyCase()
-{
-    TempStores stores;
-    stores.writeServerFile(QStringLiteral("lower.json"), goodServer);
-    stores.writeServerFile(QStringLiteral("UPPER.JSON"), goodServer);
-    stores.writeServerFile(QStringLiteral("json"), goodServer);
-    stores.writeServerFile(QStringLiteral("other.jsonx"), goodServer);
-    stores.writeServerFile(QStringLiteral("other.json~"), goodServer);
-    stores.writeServerFile(QStringLiteral(".hidden.json"), goodServer);
-    stores.streamingManager().reloadPresets();
-    QCOMPARE(stores.streamingManager().serverInfos().size(), 2);
-}
-
-void TestStoreFile::largeFilesLoadWhole()
-{
-    TempStores stores;
-    for (int size : {4095, 16384, 16385, 300000}) {
-        const QString title = QString(size, QLatin1Char('t'));
-        stores.writeServerFile(QStringLiteral("size %1.json").arg(size),
-                               R"({"Title":")" + title.toLatin1() + R"(","Port":1935})");
-    }
-    stores.writeServerFile(QStringLiteral("small.json"), goodServer);
-    // Valid, but no preset is anywhere near this big: not loaded.
-    stores.writeServerFile(QStringLiteral("oversized.json"), goodServer + QByteArray(17 * 1024 * 1024, ' '));
-    stores.streamingManager().reloadPresets();
-    QList<int> sizes;
-    for (const ServerInfo& info : stores.streamingManager().serverInfos()) {
-        if (info.channel.title != QLatin1String("Good")) {
-            QCOMPARE(info.channel.port, 1935);
-            sizes << info.channel.title.size();
+        const struct {
+            const char* name;
+            BadEntry kind;
+            QByteArray contents;
+        } cases[] = {
+            {"0-byte file", BadEntry::Bytes, QByteArray()},
+            {"truncated JSON", BadEntry::Bytes, goodCodec.left(30)},
+            {"array", BadEntry::Bytes, "[]"},
+            {"random bytes", BadEntry::Bytes, randomBytes(4096)},
+            {"deep nesting", BadEntry::Bytes, QByteArray(100000, '[')},
+            {"unreadable file", BadEntry::Unreadable, goodCodec},
+            {"directory named x.json", BadEntry::Directory, QByteArray()},
+            {"symbolic link to a preset", BadEntry::SymLinkToFile, QByteArray()},
+            {"dangling symbolic link", BadEntry::DanglingSymLink, QByteArray()},
+            {"named pipe", BadEntry::Fifo, QByteArray()},
+        };
+        for (const auto& c : cases) {
+            QTest::addRow("codec store, %s", c.name) << false << c.kind << c.contents;
+            QTest::addRow("server store, %s", c.name) << true << c.kind << c.contents;
         }
     }
-    std::sort(sizes.begin(), sizes.end());
-    QCOMPARE(sizes, (QList<int>{4095, 16384, 16385, 300000}));
-    QCOMPARE(stores.streamingManager().serverInfos().size(), 5);
-}
+    void badEntriesAreSkipped()
+    {
+        QFETCH(bool, server);
+        QFETCH(BadEntry, kind);
+        QFETCH(QByteArray, contents);
+
+        TempStores stores;
+        Store store{stores, server};
+        const QByteArray good = server ? goodServer : goodCodec;
+        QVERIFY(writeFile(store.dir() + "/good.json", good));
+        const QString bad = store.dir() + "/x.json";
+        const QString outside = stores.root() + "/outside.json";
+        switch (kind) {
+        case BadEntry::Bytes:
+        case BadEntry::Unreadable:
+            QVERIFY(writeFile(bad, contents));
+            if (kind == BadEntry::Unreadable)
+                QVERIFY(QFile::setPermissions(bad, QFileDevice::Permissions()));
+            break;
+        case BadEntry::Directory:
+            QVERIFY(QDir(store.dir()).mkdir("x.json"));
+            QVERIFY(writeFile(bad + "/inner.json", good));
+            break;
+        case BadEntry::SymLinkToFile:
+            QVERIFY(writeFile(outside, good));
+            QVERIFY(QFile::link(outside, bad));
+            break;
+        case BadEntry::DanglingSymLink:
+            QVERIFY(QFile::link(stores.root() + "/missing.json", bad));
+            break;
+        case BadEntry::Fifo:
+            // Opening a pipe for reading would block the host until a writer came.
+            QCOMPARE(::mkfifo(QFile::encodeName(bad).constData(), 0600), 0);
+            break;
+        }
+
+        // Root reads files whatever their permission bits: read as nobody instead.
+        const bool asNobody = kind == BadEntry::Unreadable && ::geteuid() == 0;
+        const auto restore = qScopeGuard([asNobody] {
+            if (asNobody && (::seteuid(0) != 0 || ::setegid(0) != 0))
+                qFatal("cannot return to root");
+        });
+        if (asNobody) {
+            for (const QString& path : {stores.root(), store.dir()})
+                QVERIFY(QFile::setPermissions(path, QFile::permissions(path) | QFile::ExeOther | QFile::ReadOther));
+            QCOMPARE(::setegid(65534), 0);
+            QCOMPARE(::seteuid(65534), 0);
+        }
+        QCOMPARE(store.loaded(), QStringList{"Good="});
+    }
+
+    void namesStayInsideTheStore_data()
+    {
+        QTest::addColumn<bool>("server");
+        QTest::addColumn<QString>("name");
+        const char* const names[] = {"../escaped", "../../../escaped", "/tmp/escaped", "..\\escaped", "a/b/c",
+                                     "..",         ".",                ".hidden"};
+        for (const char* name : names) {
+            QTest::addRow("codec store, %s", name) << false << QString::fromLatin1(name);
+            QTest::addRow("server store, %s", name) << true << QString::fromLatin1(name);
+        }
+        QTest::newRow("server store, empty title") << true << QString();
+    }
+    void namesStayInsideTheStore()
+    {
+        QFETCH(bool, server);
+        QFETCH(QString, name);
+        TempStores stores;
+        Store store{stores, server};
+
+        QVERIFY(store.write(name, "first"));
+        QCOMPARE(entries(stores.root()), (QStringList{"codecs", "servers"}));
+        const QStringList files = entries(store.dir());
+        QCOMPARE(files.size(), 1);
+        QVERIFY(QFileInfo(store.dir() + '/' + files.first()).isFile());
+
+        // Written again under the same name it replaces, not adds.
+        QVERIFY(store.write(name, "second"));
+        QCOMPARE(entries(store.dir()), files);
+        QCOMPARE(store.loaded(), QStringList{name + "=second"});
+        QVERIFY(store.remove(name));
+        QVERIFY(entries(store.dir()).isEmpty());
+    }
+
+    void storeFailures_data()
+    {
+        QTest::addColumn<bool>("server");
+        QTest::newRow("codec store") << false;
+        QTest::newRow("server store") << true;
+    }
+    void storeFailures()
+    {
+        QFETCH(bool, server);
+        TempStores stores;
+        Store store{stores, server};
+        QVERIFY(store.write("Main", "old"));
+        QVERIFY(store.write("Kept", "kept"));
+        const QStringList files = entries(store.dir());
+        const QString mainFile = store.dir() + '/' + files.at(files.first().startsWith("Main") ? 0 : 1);
+        const QByteArray before = readFile(mainFile);
+
+        // A full disk half-way through the write: the old file stays whole.
+        bool written = true;
+        {
+            FileSizeLimit full(32);
+            QVERIFY(full.isActive());
+            QTest::ignoreMessage(QtWarningMsg, "Couldn't open save file.");
+            written = store.write("Main", QString(4096, 'n'));
+        }
+        QVERIFY(!written);
+        QCOMPARE(readFile(mainFile), before);
+        QCOMPARE(entries(store.dir()), files);
+
+        // Removing is true whatever there is to remove, and never goes further than the store.
+        QVERIFY(store.remove("Never saved"));
+        QVERIFY(store.remove("../servers/Kept"));
+        QVERIFY(store.remove("Main"));
+        QVERIFY(store.remove("Main"));
+        QCOMPARE(store.loaded(), QStringList{"Kept=kept"});
+
+        // A store directory that cannot be made: write fails, the file in its way is left alone.
+        const QString blocker = stores.root() + "/plain file";
+        QVERIFY(writeFile(blocker, "mine"));
+        const ContentsSettings blocked(blocker + "/codecs", blocker + "/servers");
+        QTest::ignoreMessage(QtWarningMsg, "Couldn't open save file.");
+        if (server) {
+            Channel channel;
+            channel.title = "Main";
+            QVERIFY(!StreamingManager(blocked, LicenseModel()).write(channel, OAuth()));
+        } else {
+            QVERIFY(!CodecManager(blocked).write(Store::codec("Main")));
+        }
+        QCOMPARE(readFile(blocker), QByteArray("mine"));
+        QCOMPARE(store.loaded(), QStringList{"Kept=kept"});
+
+        // Over a directory that is not there: nothing is read, nothing made.
+        const QString nowhere = stores.root() + "/nowhere";
+        QVERIFY(server ? StreamingManager(ContentsSettings(nowhere, nowhere), LicenseModel()).serverInfos().isEmpty()
+                       : CodecManager(ContentsSettings(nowhere, nowhere)).codecPresets().isEmpty());
+        QVERIFY(!QFileInfo::exists(nowhere));
+    }
+
+    void serverFilesByNameAndSize()
+    {
+        TempStores stores;
+        for (const char* name : {"lower.json", "UPPER.JSON", "json", "other.jsonx", "other.json~", ".hidden.json"})
+            stores.writeServerFile(QLatin1String(name), goodServer);
+        const QList<int> sizes{4095, 16384, 16385, 300000};
+        for (int size : sizes)
+            stores.writeServerFile(QString("size %1.json").arg(size),
+                                   R"({"Title":")" + QByteArray(size, 't') + R"("})");
+        // Valid, but no preset is anywhere near this big: not loaded.
+        stores.writeServerFile("oversized.json", goodServer + QByteArray(17 * 1024 * 1024, ' '));
+
+        stores.streamingManager().reloadPresets();
+        QList<int> loaded;
+        for (const ServerInfo& info : stores.streamingManager().serverInfos())
+            loaded << info.channel.title.size();
+        std::sort(loaded.begin(), loaded.end());
+        QCOMPARE(loaded, (QList<int>{4, 4} + sizes)); // lower.json and UPPER.JSON hold "Good"
+    }
+};
 
 QTEST_GUILESS_MAIN(TestStoreFile)
 #include "tst_storefile.moc"
