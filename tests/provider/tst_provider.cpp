@@ -32,11 +32,11 @@ QJsonObject object(const QByteArray& json)
     return QJsonDocument::fromJson(json).object();
 }
 
-// name|features|features(true)|icon|client id:secret
+// name|features|features(true)|icon|client id:secret|stream URL
 QString identity(const Provider& p)
 {
     return QStringList{p.name(), QString::number(p.features(), 16), QString::number(p.features(true), 16),
-                       p.icon().isNull() ? "" : "icon", p.clientId() + ':' + p.clientSecret()}
+                       p.icon().isNull() ? "" : "icon", p.clientId() + ':' + p.clientSecret(), p.streamUrl()}
         .join('|');
 }
 
@@ -55,16 +55,12 @@ private slots:
     void checkReplyLogsFirstAndUnexpectedReplyIsTagged();
     void requestHelpers_data();
     void requestHelpers();
-    void repliesThatAreNoJsonObject_data();
-    void repliesThatAreNoJsonObject();
     void noManagerOrNoServerGivesEmptyObject();
     void findChannelReturnsFirstMatch();
 
     void serviceIdentities();
-    void simpleProviderKeepsItsTable();
     void streamKeyFromSettings_data();
     void streamKeyFromSettings();
-    void providersWithoutApiSendNothing_data();
     void providersWithoutApiSendNothing();
 };
 
@@ -144,30 +140,46 @@ void TestProvider::requestHelpers_data()
 {
     QTest::addColumn<QByteArray>("method");
     QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArray>("reply");
+    QTest::addColumn<QByteArray>("expected");
 
-    QTest::newRow("get") << QByteArray("GET") << QByteArray();
-    QTest::newRow("delete") << QByteArray("DELETE") << QByteArray();
-    QTest::newRow("post") << QByteArray("POST") << QByteArray("a=1&b=two");
-    QTest::newRow("put") << QByteArray("PUT") << QByteArray(R"({"k":"v"})");
+    const QByteArray item = R"({"id":"7","list":[1,2]})";
+    QTest::newRow("get") << QByteArray("GET") << QByteArray() << 200 << item << item;
+    QTest::newRow("delete") << QByteArray("DELETE") << QByteArray() << 200 << item << item;
+    QTest::newRow("post") << QByteArray("POST") << QByteArray("a=1&b=two") << 200 << item << item;
+    QTest::newRow("put") << QByteArray("PUT") << QByteArray(R"({"k":"v"})") << 200 << item << item;
+    const QByteArray error = R"({"error":"invalid_token"})";
+    QTest::newRow("error status keeps its JSON") << QByteArray("GET") << QByteArray() << 401 << error << error;
+    const auto empty = [](const char* name, int status, const QByteArray& reply) {
+        QTest::newRow(name) << QByteArray("GET") << QByteArray() << status << reply << QByteArray("{}");
+    };
+    empty("not JSON", 200, "<html>gateway</html>");
+    empty("array document", 200, R"([{"id":1}])");
+    empty("empty body", 204, QByteArray());
+    empty("truncated", 200, R"({"id":"1",)");
+    empty("megabytes of text", 200, QByteArray(4 * 1024 * 1024, 'x'));
 }
 
 void TestProvider::requestHelpers()
 {
     QFETCH(QByteArray, method);
     QFETCH(QByteArray, body);
+    QFETCH(int, status);
+    QFETCH(QByteArray, reply);
+    QFETCH(QByteArray, expected);
 
     HttpServer server;
     FakeView view;
-    server.onJson(method, "/items/7", R"({"id":"7","list":[1,2]})");
+    server.onJson(method, "/items/7", reply, status);
     OpenProvider provider(&view, "Test");
     QNetworkRequest request(QUrl(server.baseUrl() + "/items/7?x=1&y=two"));
     request.setRawHeader("Authorization", "Bearer tok");
-    const QJsonObject reply = method == "GET"      ? provider.get(request)
-                              : method == "DELETE" ? provider.deleteResource(request)
-                              : method == "POST"   ? provider.post(request, body)
-                                                   : provider.put(request, body);
-
-    QCOMPARE(reply, object(R"({"id":"7","list":[1,2]})"));
+    const QJsonObject answer = method == "GET"      ? provider.get(request)
+                               : method == "DELETE" ? provider.deleteResource(request)
+                               : method == "POST"   ? provider.post(request, body)
+                                                    : provider.put(request, body);
+    QCOMPARE(answer, object(expected));
     QCOMPARE(server.requests().size(), 1);
     const HttpServer::Request& seen = server.requests().first();
     QCOMPARE(seen.method + ' ' + seen.target, method + " /items/7?x=1&y=two");
@@ -175,34 +187,6 @@ void TestProvider::requestHelpers()
     QCOMPARE(seen.body, body);
     // The finished reply is released once control returns to the event loop.
     QTRY_VERIFY(view.networkAccessManager()->findChildren<QNetworkReply*>().isEmpty());
-}
-
-void TestProvider::repliesThatAreNoJsonObject_data()
-{
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QByteArray>("expected");
-
-    QTest::newRow("error status keeps its JSON") << 401 << QByteArray(R"({"error":"invalid_token"})")
-                                                 << QByteArray(R"({"error":"invalid_token"})");
-    QTest::newRow("not JSON") << 200 << QByteArray("<html>gateway</html>") << QByteArray("{}");
-    QTest::newRow("array document") << 200 << QByteArray(R"([{"id":1}])") << QByteArray("{}");
-    QTest::newRow("empty body") << 204 << QByteArray() << QByteArray("{}");
-    QTest::newRow("truncated") << 200 << QByteArray(R"({"id":"1",)") << QByteArray("{}");
-    QTest::newRow("megabytes of text") << 200 << QByteArray(4 * 1024 * 1024, 'x') << QByteArray("{}");
-}
-
-void TestProvider::repliesThatAreNoJsonObject()
-{
-    QFETCH(int, status);
-    QFETCH(QByteArray, body);
-    QFETCH(QByteArray, expected);
-
-    HttpServer server;
-    FakeView view;
-    server.onJson("GET", "/thing", body, status);
-    OpenProvider provider(&view, "Test");
-    QCOMPARE(provider.get(QNetworkRequest(QUrl(server.baseUrl() + "/thing"))), object(expected));
 }
 
 void TestProvider::noManagerOrNoServerGivesEmptyObject()
@@ -236,8 +220,7 @@ void TestProvider::findChannelReturnsFirstMatch()
     provider.setChannels({other, first, second});
 
     LiveChannel* found = provider.findChannel("Show");
-    QVERIFY(found);
-    QCOMPARE(found->id, QStringLiteral("1"));
+    QVERIFY(found && found->id == "1");
     found->streamKey = "changed"; // the entry itself, not a copy
     QCOMPARE(provider.channels().at(1).streamKey, QStringLiteral("changed"));
     QVERIFY(!provider.findChannel("show"));
@@ -247,25 +230,14 @@ void TestProvider::findChannelReturnsFirstMatch()
 void TestProvider::serviceIdentities()
 {
     ServiceFixture f;
-    QCOMPARE(identity(UStream(&f.view)), QStringLiteral("UStream|3102a4|3102a4|icon|test-client:test-secret"));
-    QCOMPARE(identity(DailyMotion(&f.view)), QStringLiteral("DailyMotion|213f03a4|213f03a4|icon|test-client:test-secret"));
-    QCOMPARE(identity(Hitbox(&f.view)), QStringLiteral("Smashcast API|300ea1|300ea1||:"));
-    QCOMPARE(identity(Custom(&f.view)), QStringLiteral("Custom|f00a|f00a||:"));
-    QCOMPARE(identity(SimpleProvider(&f.view, 3601, "Restream", QUrl(), QString(), {})),
-             QStringLiteral("Restream|e11|e11||:"));
-}
-
-void TestProvider::simpleProviderKeepsItsTable()
-{
-    const QList<LabelPair> servers = {{"Main Server", "rtmp://a.test/live2"}, {"Backup", "rtmp://b.test/live2?backup=1"}};
-    SimpleProvider youtube(nullptr, 3601, "YouTube", QUrl("https://youtube.test"), QString(), servers);
-    QCOMPARE(youtube.homeUrl(), QUrl("https://youtube.test"));
-    QCOMPARE(youtube.servers(), servers);
-    QVERIFY(youtube.streamUrl().isEmpty());
-
-    SimpleProvider facebook(nullptr, 528, "Facebook", QUrl(), "rtmps://live.facebook.test:443/rtmp", {});
-    QCOMPARE(facebook.channel().url, QStringLiteral("rtmps://live.facebook.test:443/rtmp"));
-    QVERIFY(facebook.servers().isEmpty());
+    QCOMPARE(identity(UStream(&f.view)), QStringLiteral("UStream|3102a4|3102a4|icon|test-client:test-secret|"));
+    QCOMPARE(identity(DailyMotion(&f.view)),
+             QStringLiteral("DailyMotion|213f03a4|213f03a4|icon|test-client:test-secret|"));
+    QCOMPARE(identity(Hitbox(&f.view)), QStringLiteral("Smashcast API|300ea1|300ea1||:|"));
+    QCOMPARE(identity(Custom(&f.view)), QStringLiteral("Custom|f00a|f00a||:|"));
+    // The stream URL of a service without API is its channel's.
+    QCOMPARE(identity(SimpleProvider(&f.view, 3601, "Restream", QUrl(), "rtmps://live.test:443/app", {})),
+             QStringLiteral("Restream|e11|e11||:|rtmps://live.test:443/app"));
 }
 
 void TestProvider::streamKeyFromSettings_data()
@@ -294,33 +266,21 @@ void TestProvider::streamKeyFromSettings()
     QCOMPARE(provider.streamKey(), key);
 }
 
-void TestProvider::providersWithoutApiSendNothing_data()
-{
-    QTest::addColumn<bool>("custom");
-    QTest::newRow("simple") << false;
-    QTest::newRow("custom") << true;
-}
-
 void TestProvider::providersWithoutApiSendNothing()
 {
-    QFETCH(bool, custom);
     ServiceFixture f;
-    std::unique_ptr<Provider> provider;
-    if (custom)
-        provider = std::make_unique<Custom>(&f.view);
-    else
-        provider = std::make_unique<SimpleProvider>(&f.view, 3601, "Restream", QUrl(), QString(), QList<LabelPair>());
-    QVERIFY(provider->login("user", "pw"));
-    QCOMPARE(provider->username() + ':' + provider->password(), QStringLiteral("user:pw"));
-    QVERIFY(provider->authorize(QUrl()));
-    QVERIFY(provider->authorize(QUrl("http://localhost/oauth2callback?code=1")));
-    QVERIFY(provider->loadChannels());
-    QVERIFY(provider->createEvent(EventInfo(), LiveChannel()));
-    QVERIFY(provider->updateEvent(EventInfo(), LiveChannel()));
-    QVERIFY(provider->deleteEvent(LiveChannel()));
-    QVERIFY(provider->revoke());
-    QVERIFY(!provider->isAuthorized());
-    QVERIFY(!provider->isLoggedIn());
+    Custom custom(&f.view);
+    SimpleProvider simple(&f.view, 3601, "Restream", QUrl(), QString(), {});
+    for (Provider* provider : {static_cast<Provider*>(&custom), static_cast<Provider*>(&simple)}) {
+        // Every operation succeeds without asking anything of the service or the view.
+        QVERIFY(provider->login("user", "pw") && provider->authorize(QUrl())
+                && provider->authorize(QUrl("http://localhost/oauth2callback?code=1")) && provider->loadChannels()
+                && provider->createEvent(EventInfo(), LiveChannel())
+                && provider->updateEvent(EventInfo(), LiveChannel()) && provider->deleteEvent(LiveChannel())
+                && provider->revoke());
+        QCOMPARE(provider->username() + ':' + provider->password(), QStringLiteral("user:pw"));
+        QVERIFY(!provider->isAuthorized() && !provider->isLoggedIn());
+    }
     QVERIFY(f.view.openedUrls.isEmpty());
     QVERIFY(f.view.messages.isEmpty());
     QVERIFY(f.server.requests().isEmpty());
