@@ -54,23 +54,22 @@ void TestHitbox::loginFailures_data()
 {
     QTest::addColumn<QString>("route");
     QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<QString>("lastError");
+    QTest::addColumn<QString>("lastError"); // a tag alone: the reply could not be read
 
-    const QString login = "POST /auth/login", ingests = "GET /ingests/default_list", key = "GET /mediakey/kai";
-    const QString badLogin = "authorizeObj" + unreadableReply, badIngests = "serverArray" + unreadableReply;
-    QTest::newRow("wrong password") << login << QByteArray(R"({"error_msg":"auth_failed"})") << "authorizeObj,\nauth_failed";
-    QTest::newRow("token missing") << login << QByteArray(R"({"success":true})") << badLogin;
-    QTest::newRow("token is an object") << login << QByteArray(R"({"authToken":{"v":"x"}})") << badLogin;
-    QTest::newRow("ingests missing") << ingests << QByteArray("{}") << badIngests;
-    QTest::newRow("ingests is an object") << ingests << QByteArray(R"({"list":{"ingest_location":"EU"}})") << badIngests;
-    QTest::newRow("ingest is a string") << ingests << QByteArray(R"({"list":["rtmp://x"]})") << badIngests;
-    QTest::newRow("ingest url is a number")
-        << ingests << QByteArray(R"({"list":[{"ingest_location":"EU","ingest_url":1}]})") << badIngests;
-    QTest::newRow("top-level array")
-        << ingests << QByteArray(R"([{"ingest_location":"EU","ingest_url":"rtmp://x"}])") << badIngests;
-    QTest::newRow("media key error") << key << QByteArray(R"({"error":"X","error_description":"no key"})")
-                                     << "streamKeyObj,X\nno key";
-    QTest::newRow("media key empty") << key << QByteArray(R"({"streamKey":""})") << "streamKeyObj" + unreadableReply;
+    const auto row = [](const char* name, const char* route, const QByteArray& reply, const char* lastError) {
+        QTest::newRow(name) << route << reply << lastError;
+    };
+    const char *login = "POST /auth/login", *ingests = "GET /ingests/default_list", *key = "GET /mediakey/kai";
+    row("wrong password", login, R"({"error_msg":"auth_failed"})", "authorizeObj,\nauth_failed");
+    row("token missing", login, R"({"success":true})", "authorizeObj");
+    row("token is an object", login, R"({"authToken":{"v":"x"}})", "authorizeObj");
+    row("ingests missing", ingests, "{}", "serverArray");
+    row("ingests is an object", ingests, R"({"list":{"ingest_location":"EU"}})", "serverArray");
+    row("ingest is a string", ingests, R"({"list":["rtmp://x"]})", "serverArray");
+    row("ingest url is a number", ingests, R"({"list":[{"ingest_location":"EU","ingest_url":1}]})", "serverArray");
+    row("top-level array", ingests, R"([{"ingest_location":"EU","ingest_url":"rtmp://x"}])", "serverArray");
+    row("media key error", key, R"({"error":"X","error_description":"no key"})", "streamKeyObj,X\nno key");
+    row("media key empty", key, R"({"streamKey":""})", "streamKeyObj");
 }
 
 void TestHitbox::loginFailures()
@@ -84,7 +83,7 @@ void TestHitbox::loginFailures()
     f.serve({{route, reply}});
     Hitbox provider(&f.view);
     QVERIFY(!provider.login("kai", "pw"));
-    QCOMPARE(provider.lastError(), lastError);
+    QCOMPARE(provider.lastError(), expectedError(lastError));
     QVERIFY(provider.channels().isEmpty());
     QVERIFY(!provider.isLoggedIn());
     QVERIFY(f.requestLines().last().startsWith(route));

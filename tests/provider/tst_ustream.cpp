@@ -59,34 +59,31 @@ void TestUStream::loginFailsOrFindsNoChannel_data()
 {
     QTest::addColumn<QString>("route");
     QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<QString>("lastError"); // empty: logged in without channels
+    QTest::addColumn<QString>("lastError"); // empty: logged in without channels; a tag alone: unreadable reply
 
+    const auto row = [](const char* name, const QString& route, const QByteArray& reply, const char* lastError) {
+        QTest::newRow(name) << route << reply << lastError;
+    };
     const QString token = "POST /oauth2/token", channels = "GET /users/self/channels.json", key = "GET " + key11;
-    const QString badToken = "authorizeObj" + unreadableReply, badChannels = "channelsObj" + unreadableReply;
-    QTest::newRow("no channels, empty map") << channels << QByteArray(R"({"channels":{}})") << QString();
-    QTest::newRow("no channels, empty list") << channels << QByteArray(R"({"channels":[]})") << QString();
-    QTest::newRow("wrong password")
-        << token << QByteArray(R"({"error":"invalid_grant","error_description":"Bad credentials"})")
-        << "authorizeObj,invalid_grant\nBad credentials";
-    QTest::newRow("token missing") << token << QByteArray(R"({"token_type":"x"})") << badToken;
-    QTest::newRow("token is a number") << token << QByteArray(R"({"access_token":12345})") << badToken;
-    QTest::newRow("token reply is an array") << token << QByteArray(R"([{"access_token":"t"}])") << badToken;
-    QTest::newRow("megabytes of text") << token << QByteArray(3 << 20, 'a') << badToken;
-    QTest::newRow("channels error") << channels << QByteArray(R"({"error":{"message":"token expired"}})")
-                                    << "channelsObj,token expired";
-    QTest::newRow("channels missing") << channels << QByteArray("{}") << badChannels;
-    QTest::newRow("channels is a string") << channels << QByteArray(R"({"channels":"none"})") << badChannels;
-    QTest::newRow("channels list of objects") << channels << QByteArray(R"({"channels":[{"id":11}]})") << badChannels;
-    QTest::newRow("channel is a number") << channels << QByteArray(R"({"channels":{"11":11}})") << badChannels;
-    QTest::newRow("channel without id") << channels << QByteArray(R"({"channels":{"11":{"title":"x"}}})")
-                                        << badChannels;
-    QTest::newRow("title is a number") << channels << QByteArray(R"({"channels":{"11":{"id":11,"title":7}}})")
-                                       << badChannels;
-    QTest::newRow("key error") << key << QByteArray(R"({"error":"forbidden","error_description":"not a broadcaster"})")
-                               << "streamKeyObj,forbidden\nnot a broadcaster";
-    QTest::newRow("key missing") << key << QByteArray(R"({"broadcast_url":"rtmp://x"})") << "streamKeyObj" + unreadableReply;
-    QTest::newRow("broadcast address missing") << key << QByteArray(R"({"channel_key":"k"})")
-                                               << "streamKeyObj" + unreadableReply;
+    row("no channels, empty map", channels, R"({"channels":{}})", "");
+    row("no channels, empty list", channels, R"({"channels":[]})", "");
+    row("wrong password", token, R"({"error":"invalid_grant","error_description":"Bad credentials"})",
+        "authorizeObj,invalid_grant\nBad credentials");
+    row("token missing", token, R"({"token_type":"x"})", "authorizeObj");
+    row("token is a number", token, R"({"access_token":12345})", "authorizeObj");
+    row("token reply is an array", token, R"([{"access_token":"t"}])", "authorizeObj");
+    row("megabytes of text", token, QByteArray(3 << 20, 'a'), "authorizeObj");
+    row("channels error", channels, R"({"error":{"message":"token expired"}})", "channelsObj,token expired");
+    row("channels missing", channels, "{}", "channelsObj");
+    row("channels is a string", channels, R"({"channels":"none"})", "channelsObj");
+    row("channels list of objects", channels, R"({"channels":[{"id":11}]})", "channelsObj");
+    row("channel is a number", channels, R"({"channels":{"11":11}})", "channelsObj");
+    row("channel without id", channels, R"({"channels":{"11":{"title":"x"}}})", "channelsObj");
+    row("title is a number", channels, R"({"channels":{"11":{"id":11,"title":7}}})", "channelsObj");
+    row("key error", key, R"({"error":"forbidden","error_description":"not a broadcaster"})",
+        "streamKeyObj,forbidden\nnot a broadcaster");
+    row("key missing", key, R"({"broadcast_url":"rtmp://x"})", "streamKeyObj");
+    row("broadcast address missing", key, R"({"channel_key":"k"})", "streamKeyObj");
 }
 
 void TestUStream::loginFailsOrFindsNoChannel()
@@ -100,7 +97,7 @@ void TestUStream::loginFailsOrFindsNoChannel()
     f.serve({{route, reply}});
     UStream provider(&f.view);
     QCOMPARE(provider.login("ann", "pw"), lastError.isEmpty());
-    QCOMPARE(provider.lastError(), lastError);
+    QCOMPARE(provider.lastError(), expectedError(lastError));
     QCOMPARE(provider.isLoggedIn(), lastError.isEmpty());
     QVERIFY(provider.channels().isEmpty());
     // Nothing is asked after the request that failed.

@@ -95,10 +95,7 @@ class TestBandwidthWidget : public QObject
 private slots:
     void cleanup() { QVERIFY(QThreadPool::globalInstance()->waitForDone(10000)); }
 
-    void progress_data();
-    void progress();
-    void onlyFasterReplacesBest_data();
-    void onlyFasterReplacesBest();
+    void progressAndBestRules();
     void measure_data();
     void measure();
     void tieKeepsEarlierServer();
@@ -116,47 +113,18 @@ private:
     FakeView m_view;
 };
 
-void TestBandwidthWidget::progress_data()
+void TestBandwidthWidget::progressAndBestRules()
 {
-    QTest::addColumn<int>("position");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("percent");
-
-    QTest::newRow("1 of 3") << 1 << 3 << 33;
-    QTest::newRow("2 of 3 rounds up") << 2 << 3 << 67;
-    QTest::newRow("last") << 45 << 45 << 100;
-    QTest::newRow("1 of 8 rounds half up") << 1 << 8 << 13;
-    QTest::newRow("no servers") << 0 << 0 << 0;
-    QTest::newRow("clamped") << 5 << 4 << 100;
-}
-
-void TestBandwidthWidget::progress()
-{
-    QFETCH(int, position);
-    QFETCH(int, count);
-    QFETCH(int, percent);
-    QCOMPARE(BandwidthProbe::progress(position, count), percent);
-}
-
-void TestBandwidthWidget::onlyFasterReplacesBest_data()
-{
-    QTest::addColumn<qint64>("elapsed");
-    QTest::addColumn<qint64>("best");
-    QTest::addColumn<bool>("better");
-
-    QTest::newRow("faster") << qint64(10) << qint64(11) << true;
-    QTest::newRow("tie") << qint64(11) << qint64(11) << false;
-    QTest::newRow("slower") << qint64(12) << qint64(11) << false;
-    QTest::newRow("first below the start") << qint64(9999) << qint64(BandwidthProbe::initialBest) << true;
-    QTest::newRow("never at the start value") << qint64(10000) << qint64(BandwidthProbe::initialBest) << false;
-}
-
-void TestBandwidthWidget::onlyFasterReplacesBest()
-{
-    QFETCH(qint64, elapsed);
-    QFETCH(qint64, best);
-    QFETCH(bool, better);
-    QCOMPARE(BandwidthProbe::isBetter(elapsed, best), better);
+    // Rounded half up and clamped; no servers is 0 %.
+    const auto progress = &BandwidthProbe::progress;
+    QCOMPARE(QList<int>({progress(1, 3), progress(2, 3), progress(45, 45), progress(1, 8), progress(0, 0),
+                         progress(5, 4)}),
+             QList<int>({33, 67, 100, 13, 0, 100}));
+    // Only a strictly faster time replaces the best, and nothing at or above the start value.
+    const auto better = &BandwidthProbe::isBetter;
+    const qint64 start = BandwidthProbe::initialBest;
+    QCOMPARE(QList<bool>({better(10, 11), better(11, 11), better(12, 11), better(9999, start), better(10000, start)}),
+             QList<bool>({true, false, false, true, false}));
 }
 
 TestBandwidthWidget::Run TestBandwidthWidget::run(const QList<LabelPair>& servers)

@@ -51,6 +51,12 @@ struct ServiceFixture {
 // The text a provider gives a reply that lacks what it asked for, after the tag.
 inline const QString unreadableReply = QStringLiteral(",The service sent a reply that could not be read.");
 
+// An expected lastError in a table: a tag alone stands for the tag and unreadableReply.
+inline QString expectedError(const QString& text)
+{
+    return text.isEmpty() || text.contains(',') ? text : text + unreadableReply;
+}
+
 // A listed channel on one line: id|name|category|watch page|stream URL|stream key.
 inline QStringList describe(const QList<LiveChannel>& channels)
 {
