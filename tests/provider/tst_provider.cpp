@@ -48,7 +48,6 @@ class TestProvider : public QObject
 
 private slots:
     void initTestCase();
-    void init();
 
     void parseError_data();
     void parseError();
@@ -59,7 +58,6 @@ private slots:
     void findChannelReturnsFirstMatch();
 
     void serviceIdentities();
-    void streamKeyFromSettings_data();
     void streamKeyFromSettings();
     void providersWithoutApiSendNothing();
 };
@@ -69,11 +67,6 @@ void TestProvider::initTestCase()
     QStandardPaths::setTestModeEnabled(true);
     QCoreApplication::setOrganizationName("QuillonTests");
     QCoreApplication::setApplicationName("tst_provider");
-}
-
-void TestProvider::init()
-{
-    QSettings().clear();
 }
 
 void TestProvider::parseError_data()
@@ -240,30 +233,20 @@ void TestProvider::serviceIdentities()
              QStringLiteral("Restream|e11|e11||:|rtmps://live.test:443/app"));
 }
 
-void TestProvider::streamKeyFromSettings_data()
-{
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<QString>("key");
-
-    const auto map = [](const QString& name, const QString& key) {
-        return QVariant(QVariantMap{{name, key}, {"Mixer", "other"}});
-    };
-    QTest::newRow("own entry") << map("Twitch", "live_123_abc") << "live_123_abc";
-    QTest::newRow("no entry for this service") << map("Mixer", "other") << QString();
-    QTest::newRow("name differs in case") << map("twitch", "lower") << QString();
-    QTest::newRow("nothing stored") << QVariant() << QString();
-    QTest::newRow("not a map") << QVariant("live_123_abc") << QString();
-}
-
 void TestProvider::streamKeyFromSettings()
 {
-    QFETCH(QVariant, stored);
-    QFETCH(QString, key);
-
-    if (stored.isValid())
+    // What "ql.stream.key" holds, and the key a service named "Twitch" starts with.
+    const QList<QPair<QVariant, QString>> cases{
+        {QVariantMap{{"Twitch", "live_123_abc"}, {"Mixer", "other"}}, "live_123_abc"},
+        {QVariantMap{{"Mixer", "other"}}, QString()},
+        {QVariantMap{{"twitch", "lower"}}, QString()}, // the name differs in case
+        {QVariant(), QString()},
+        {QVariant("live_123_abc"), QString()}}; // not a map
+    for (const auto& [stored, key] : cases) {
         QSettings().setValue(SimpleProvider::streamKeySetting, stored);
-    SimpleProvider provider(nullptr, 3601, "Twitch", QUrl(), QString(), {});
-    QCOMPARE(provider.streamKey(), key);
+        QCOMPARE(SimpleProvider(nullptr, 3601, "Twitch", QUrl(), QString(), {}).streamKey(), key);
+    }
+    QSettings().clear();
 }
 
 void TestProvider::providersWithoutApiSendNothing()

@@ -12,11 +12,9 @@ private slots:
     void init();
     void cleanupTestCase() { init(); }
 
-    void names_data();
     void names();
     void everyKeyIsUniqueAndOnlyCredentialsLackADefault();
     void environmentBeforeSettingsBeforeDefault();
-    void urlJoinsHostAndPath_data();
     void urlJoinsHostAndPath();
 };
 
@@ -34,32 +32,22 @@ void TestServiceConfig::init()
         qunsetenv(ServiceConfig::environmentName(static_cast<ServiceConfig::Key>(index)).toLatin1().constData());
 }
 
-void TestServiceConfig::names_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("names"); // key name, environment variable, setting, default
-
-    QTest::newRow("dailymotion api") << int(ServiceConfig::DailyMotionApi)
-                                     << "dailymotion.api QUILLON_DAILYMOTION_API ql.service.dailymotion.api "
-                                        "https://api.dailymotion.com";
-    QTest::newRow("redirect") << int(ServiceConfig::OAuthRedirect)
-                              << "oauth.redirect QUILLON_OAUTH_REDIRECT ql.service.oauth.redirect "
-                                 "http://localhost/oauth2callback";
-    QTest::newRow("hitbox revoke") << int(ServiceConfig::HitboxRevokeApi)
-                                   << "hitbox.revokeapi QUILLON_HITBOX_REVOKEAPI ql.service.hitbox.revokeapi "
-                                      "https://api.smashcast.tv";
-}
-
 void TestServiceConfig::names()
 {
-    QFETCH(int, key);
-    QFETCH(QString, names);
-
-    const auto k = static_cast<ServiceConfig::Key>(key);
-    QCOMPARE(QStringList({ServiceConfig::keyName(k), ServiceConfig::environmentName(k), ServiceConfig::settingsKey(k),
-                          ServiceConfig::value(k)})
-                 .join(' '),
-             names);
+    // key name, environment variable, setting, default
+    const auto names = [](ServiceConfig::Key k) {
+        return QStringList{ServiceConfig::keyName(k), ServiceConfig::environmentName(k), ServiceConfig::settingsKey(k),
+                           ServiceConfig::value(k)};
+    };
+    QCOMPARE(names(ServiceConfig::DailyMotionApi), QStringList({"dailymotion.api", "QUILLON_DAILYMOTION_API",
+                                                                "ql.service.dailymotion.api",
+                                                                "https://api.dailymotion.com"}));
+    QCOMPARE(names(ServiceConfig::OAuthRedirect), QStringList({"oauth.redirect", "QUILLON_OAUTH_REDIRECT",
+                                                               "ql.service.oauth.redirect",
+                                                               "http://localhost/oauth2callback"}));
+    QCOMPARE(names(ServiceConfig::HitboxRevokeApi), QStringList({"hitbox.revokeapi", "QUILLON_HITBOX_REVOKEAPI",
+                                                                 "ql.service.hitbox.revokeapi",
+                                                                 "https://api.smashcast.tv"}));
 }
 
 void TestServiceConfig::everyKeyIsUniqueAndOnlyCredentialsLackADefault()
@@ -93,23 +81,16 @@ void TestServiceConfig::environmentBeforeSettingsBeforeDefault()
     QCOMPARE(ServiceConfig::value(ServiceConfig::DailyMotionWeb), QStringLiteral("https://www.dailymotion.com"));
 }
 
-void TestServiceConfig::urlJoinsHostAndPath_data()
-{
-    QTest::addColumn<QString>("host");
-    QTest::addColumn<QString>("url"); // of the path "/videos?"
-
-    QTest::newRow("plain") << "http://127.0.0.1:8080" << "http://127.0.0.1:8080/videos?";
-    QTest::newRow("trailing slash") << "http://127.0.0.1:8080/" << "http://127.0.0.1:8080/videos?";
-    QTest::newRow("host with a base path") << "http://127.0.0.1:8080/api/" << "http://127.0.0.1:8080/api/videos?";
-}
-
 void TestServiceConfig::urlJoinsHostAndPath()
 {
-    QFETCH(QString, host);
-    QFETCH(QString, url);
-
-    qputenv("QUILLON_HITBOX_API", host.toUtf8());
-    QCOMPARE(ServiceConfig::url(ServiceConfig::HitboxApi, "/videos?").toString(), url);
+    const QString plain = "http://127.0.0.1:8080/videos?";
+    const QList<QPair<QByteArray, QString>> hosts{{"http://127.0.0.1:8080", plain},
+                                                  {"http://127.0.0.1:8080/", plain},
+                                                  {"http://127.0.0.1:8080/api/", "http://127.0.0.1:8080/api/videos?"}};
+    for (const auto& [host, url] : hosts) {
+        qputenv("QUILLON_HITBOX_API", host);
+        QCOMPARE(ServiceConfig::url(ServiceConfig::HitboxApi, "/videos?").toString(), url);
+    }
 }
 
 QTEST_MAIN(TestServiceConfig)

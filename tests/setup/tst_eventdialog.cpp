@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <ctime>
@@ -61,25 +62,6 @@ struct Form {
     EventDialog dialog;
 };
 
-// Sets TZ for its lifetime.
-class TimeZone
-{
-public:
-    explicit TimeZone(const QByteArray& zone) : m_had(qEnvironmentVariableIsSet("TZ")), m_old(qgetenv("TZ"))
-    {
-        qputenv("TZ", zone);
-        tzset();
-    }
-    ~TimeZone()
-    {
-        m_had ? qputenv("TZ", m_old) : qunsetenv("TZ");
-        tzset();
-    }
-
-private:
-    bool m_had;
-    QByteArray m_old;
-};
 } // namespace
 
 class TestEventDialog : public QObject
@@ -146,11 +128,9 @@ void TestEventDialog::rowsFollowTheProvider_data()
     QTest::addColumn<bool>("update");
     QTest::addColumn<QString>("rows"); // title, start, end, description, tags, stream type, privacy, category
 
-    QTest::newRow("broadcasts with schedule") << 0x3F3F07A5u << 0x3F3F07A5u << false << "11111011";
     QTest::newRow("videos with a channel") << 0x213F03A4u << 0x213F03A4u << false << "10000001";
     QTest::newRow("live video, new") << 0x55000000u << 0x05000000u << false << "10010110";
     QTest::newRow("live video, update") << 0x55000000u << 0x05000000u << true << "10010000";
-    QTest::newRow("no event rows") << 0x00300FA1u << 0x00300FA1u << false << "00000000";
     QTest::newRow("bit 24 title") << 0x01000000u << 0u << false << "10000000";
     QTest::newRow("bit 25 times") << 0x02000000u << 0u << false << "01100000";
     QTest::newRow("bit 26 description") << 0x04000000u << 0u << false << "00010000";
@@ -181,12 +161,12 @@ void TestEventDialog::startTimeIsUtcInEveryZone_data()
     QTest::addColumn<QString>("time");
 
     const QDate may(2024, 5, 1);
-    QTest::newRow("23:30, UTC") << QByteArray("UTC") << may << "23:30";
     QTest::newRow("23:30, UTC+14") << QByteArray("Pacific/Kiritimati") << may << "23:30";
     QTest::newRow("23:30, UTC-2:30") << QByteArray("America/St_Johns") << may << "23:30";
     QTest::newRow("00:00, UTC+5:30") << QByteArray("Asia/Kolkata") << may << "00:00";
     QTest::newRow("hour skipped by local summer time") << QByteArray("Europe/Berlin") << QDate(2024, 3, 31) << "02:30";
-    QTest::newRow("hour repeated by local winter time") << QByteArray("America/New_York") << QDate(2024, 11, 3) << "01:30";
+    QTest::newRow("hour repeated by local winter time") << QByteArray("America/New_York") << QDate(2024, 11, 3)
+                                                        << "01:30";
 }
 
 void TestEventDialog::startTimeIsUtcInEveryZone()
@@ -194,7 +174,14 @@ void TestEventDialog::startTimeIsUtcInEveryZone()
     QFETCH(QByteArray, zone);
     QFETCH(QDate, date);
     QFETCH(QString, time);
-    TimeZone local(zone);
+    const QByteArray oldZone = qgetenv("TZ");
+    const bool hadZone = qEnvironmentVariableIsSet("TZ");
+    const auto restore = qScopeGuard([&] {
+        hadZone ? qputenv("TZ", oldZone) : qunsetenv("TZ");
+        tzset();
+    });
+    qputenv("TZ", zone);
+    tzset();
 
     Form form;
     form.get<QDateEdit>("startDateTime")->setDate(date);
