@@ -17,14 +17,12 @@ class OpenProvider : public Provider
 {
 public:
     using Provider::Provider;
-    using Provider::checkReply;
     using Provider::deleteResource;
     using Provider::get;
     using Provider::parseError;
     using Provider::post;
     using Provider::put;
     using Provider::setLastError;
-    using Provider::unexpectedReply;
 };
 
 QJsonObject object(const QByteArray& json)
@@ -51,7 +49,6 @@ private slots:
 
     void parseError_data();
     void parseError();
-    void checkReplyLogsFirstAndUnexpectedReplyIsTagged();
     void requestHelpers_data();
     void requestHelpers();
     void noManagerOrNoServerGivesEmptyObject();
@@ -110,23 +107,6 @@ void TestProvider::parseError()
     provider.setLastError("earlier", "unchanged");
     QCOMPARE(provider.parseError(object(reply), tag), !lastError.isEmpty());
     QCOMPARE(provider.lastError(), lastError.isEmpty() ? QStringLiteral("earlier,unchanged") : lastError);
-}
-
-void TestProvider::checkReplyLogsFirstAndUnexpectedReplyIsTagged()
-{
-    FakeView view;
-    OpenProvider provider(&view, "Test");
-    const QJsonObject failed = object(R"({"error":"X","error_description":"Y"})");
-    QVERIFY(!provider.checkReply(failed, "channelObj"));
-    QVERIFY(provider.checkReply(object(R"({"id":"1"})"), "videoObj"));
-    QCOMPARE(view.tags(), QStringList({"channelObj", "videoObj"}));
-    QCOMPARE(view.messages.first().second.value<QJsonObject>(), failed);
-    QCOMPARE(provider.lastError(), QStringLiteral("channelObj,X\nY"));
-
-    QVERIFY(!provider.unexpectedReply("serverArray"));
-    // The dialog splits the text at "," and needs exactly two parts.
-    QCOMPARE(provider.lastError(), QStringLiteral("serverArray") + unreadableReply);
-    QCOMPARE(provider.lastError().split(',').size(), 2);
 }
 
 void TestProvider::requestHelpers_data()

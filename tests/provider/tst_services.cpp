@@ -88,9 +88,7 @@ class TestServices : public QObject
 private slots:
     void ustreamLoginLoadsEveryChannel();
     void hitboxLoginLoadsIngestsAndKey();
-    void hitboxRevoke_data();
     void hitboxRevoke();
-    void dailyMotionAuthorizationPage();
     void dailyMotionCodeIsExchangedAndChannelsLoaded();
     void dailyMotionRedirectsWithoutUsableCode_data();
     void dailyMotionRedirectsWithoutUsableCode();
@@ -160,43 +158,23 @@ void TestServices::hitboxLoginLoadsIngestsAndKey()
     QCOMPARE(describe(provider.channels()), channels);
 }
 
-void TestServices::hitboxRevoke_data()
-{
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<QString>("lastError"); // empty: revoked, token forgotten
-
-    QTest::newRow("revoked") << QByteArray(R"({"success":true})") << QString();
-    QTest::newRow("refused keeps the token") << QByteArray(R"({"error":{"message":"unknown token"}})")
-                                             << "revokeObj,unknown token";
-}
-
 void TestServices::hitboxRevoke()
 {
-    QFETCH(QByteArray, reply);
-    QFETCH(QString, lastError);
-
-    ServiceFixture f;
-    f.serve({{"DELETE /oauthapps/masta/1", reply}});
-    Hitbox provider(&f.view);
-    provider.setAccessToken("auth-7");
-    QCOMPARE(provider.revoke(), lastError.isEmpty());
-    QCOMPARE(provider.lastError(), lastError);
-    QCOMPARE(provider.isAuthorized(), !lastError.isEmpty());
-    QCOMPARE(provider.accessToken(), lastError.isEmpty() ? QString() : QStringLiteral("auth-7"));
-    QCOMPARE(f.requestLines(), QStringList({"DELETE /oauthapps/masta/1?authToken=auth-7"}));
-    QCOMPARE(f.view.tags(), QStringList({"revokeObj"}));
-}
-
-void TestServices::dailyMotionAuthorizationPage()
-{
-    ServiceFixture f;
-    DailyMotion provider(&f.view);
-    QVERIFY(provider.authorize(QUrl()));
-    QCOMPARE(f.view.openedUrls, QList<QUrl>({QUrl(f.server.baseUrl()
-                                                  + "/oauth/authorize?response_type=code&client_id=test-client"
-                                                    "&redirect_uri=http://localhost/oauth2callback"
-                                                    "&scope=userinfo+manage_videos")}));
-    QVERIFY(f.server.requests().isEmpty());
+    // The reply, and the error it gives (none: revoked, token forgotten).
+    const QList<QPair<QByteArray, QString>> cases{
+        {R"({"success":true})", QString()}, {R"({"error":{"message":"unknown token"}})", "revokeObj,unknown token"}};
+    for (const auto& [reply, lastError] : cases) {
+        ServiceFixture f;
+        f.serve({{"DELETE /oauthapps/masta/1", reply}});
+        Hitbox provider(&f.view);
+        provider.setAccessToken("auth-7");
+        QCOMPARE(provider.revoke(), lastError.isEmpty());
+        QCOMPARE(provider.lastError(), lastError);
+        QCOMPARE(provider.isAuthorized(), !lastError.isEmpty());
+        QCOMPARE(provider.accessToken(), lastError.isEmpty() ? QString() : QStringLiteral("auth-7"));
+        QCOMPARE(f.requestLines(), QStringList({"DELETE /oauthapps/masta/1?authToken=auth-7"}));
+        QCOMPARE(f.view.tags(), QStringList({"revokeObj"}));
+    }
 }
 
 void TestServices::dailyMotionCodeIsExchangedAndChannelsLoaded()
@@ -204,6 +182,14 @@ void TestServices::dailyMotionCodeIsExchangedAndChannelsLoaded()
     ServiceFixture f;
     serveAccounts(f);
     DailyMotion provider(&f.view);
+    // First the service's own page, through the view.
+    QVERIFY(provider.authorize(QUrl()));
+    QCOMPARE(f.view.openedUrls, QList<QUrl>({QUrl(f.server.baseUrl()
+                                                  + "/oauth/authorize?response_type=code&client_id=test-client"
+                                                    "&redirect_uri=http://localhost/oauth2callback"
+                                                    "&scope=userinfo+manage_videos")}));
+    QVERIFY(f.server.requests().isEmpty());
+
     QVERIFY2(provider.authorize(QUrl(redirect + "?code=c0de%2B1&state=s")), qPrintable(provider.lastError()));
     QCOMPARE(f.view.closeCount, 1);
     QVERIFY(provider.isLoggedIn());

@@ -131,13 +131,10 @@ void TestEventDialog::rowsFollowTheProvider_data()
     QTest::newRow("videos with a channel") << 0x213F03A4u << 0x213F03A4u << false << "10000001";
     QTest::newRow("live video, new") << 0x55000000u << 0x05000000u << false << "10010110";
     QTest::newRow("live video, update") << 0x55000000u << 0x05000000u << true << "10010000";
-    QTest::newRow("bit 24 title") << 0x01000000u << 0u << false << "10000000";
-    QTest::newRow("bit 25 times") << 0x02000000u << 0u << false << "01100000";
-    QTest::newRow("bit 26 description") << 0x04000000u << 0u << false << "00010000";
-    QTest::newRow("bit 27 tags") << 0x08000000u << 0u << false << "00001000";
-    QTest::newRow("bit 28 privacy") << 0x10000000u << 0u << false << "00000010";
-    QTest::newRow("bit 29 category") << 0x20000000u << 0u << false << "00000001";
-    QTest::newRow("bit 30 stream type") << 0x40000000u << 0u << false << "00000100";
+    // Bits 24 to 30, one at a time: title, times, description, tags, privacy, category, stream type.
+    const QStringList single{"10000000", "01100000", "00010000", "00001000", "00000010", "00000001", "00000100"};
+    for (int bit = 24; bit <= 30; ++bit)
+        QTest::addRow("bit %d", bit) << (1u << bit) << 0u << false << single.at(bit - 24);
     QTest::newRow("bit 31 and low bits show nothing") << 0x80FFFFFFu << 0u << false << "00000000";
 }
 
