@@ -37,3 +37,6 @@ badge custom.png '#5f6b73' 'C'
 badge service.png '#8a8a8a' 'S'
 # eye, for the buttons that reveal a hidden text
 c -fill none -stroke '#9a9a9a' -strokewidth 5 -draw "ellipse 32,32 26,15 0,360" -fill '#9a9a9a' -stroke none -draw "circle 32,32 32,22" appicons/eye.png
+# refresh: an open ring with an arrow head
+c -fill none -stroke '#9a9a9a' -strokewidth 6 -draw "ellipse 32,32 20,20 40,315" \
+  -stroke none -fill '#9a9a9a' -draw "polygon 53,8 36,22 56,28" appicons/refresh.png

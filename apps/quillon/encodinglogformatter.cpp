@@ -37,11 +37,21 @@ QString EncodingLogFormatter::destination(int kind, const CodecPreset& preset)
     if (kind == Recording)
         return FileTag::fromCodecPreset(&preset, true);
     if (kind == Streaming) {
-        // The stream key is a secret: the log shows the server only.
+        // The stream key is a secret: the log shows only its last characters, enough for the
+        // operator to see which key the engine got.
         const QUrl url(preset.streaming().url);
         if (preset.streaming().url.isEmpty())
             return tr("(no URL)");
-        return url.isValid() ? url.toDisplayString(QUrl::RemoveUserInfo) : preset.streaming().url;
+        QString target = url.isValid() ? url.toDisplayString(QUrl::RemoveUserInfo) : preset.streaming().url;
+        if (!preset.streaming().key.isEmpty())
+            target += tr(" (key %1)").arg(maskedKey(preset.streaming().key));
+        return target;
     }
     return QString();
+}
+
+QString EncodingLogFormatter::maskedKey(const QString& key)
+{
+    const int shown = key.size() > 8 ? 4 : 0;
+    return QString(QChar(0x2022)).repeated(4) + key.right(shown);
 }

@@ -15,6 +15,8 @@ public:
 
     // kind as the dialogs report it: 0 streaming, 1 recording.
     static QString describe(int kind, const CodecPreset& preset, bool on);
-    // Where the output goes: the file name for a recording, the URL for a stream.
+    // Where the output goes: the file name for a recording, the URL (and masked key) for a stream.
     static QString destination(int kind, const CodecPreset& preset);
+    // A stream key as the log shows it: bullets and, for a long key, its last four characters.
+    static QString maskedKey(const QString& key);
 };

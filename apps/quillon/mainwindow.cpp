@@ -104,6 +104,7 @@ QDialog* MainWindow::openDialog(const QString& id)
         QDialog* dialog = entry.keep ? m_keptDialogs.value(id).data() : nullptr;
         if (!dialog) {
             dialog = entry.create(this, m_session);
+            connect(dialog, &QDialog::finished, this, &MainWindow::refreshStoreLists);
             if (entry.keep)
                 m_keptDialogs.insert(id, dialog);
             else
@@ -149,6 +150,12 @@ void MainWindow::refreshServers()
         ui->serverList->addItem(tr("%1 - %2").arg(server.channel.title, server.channel.url));
     if (ui->serverList->count() == 0)
         setPlaceholder(ui->serverList, tr("No saved servers"));
+}
+
+void MainWindow::refreshStoreLists()
+{
+    refreshPresets();
+    refreshServers();
 }
 
 void MainWindow::refreshRunning()

@@ -36,6 +36,8 @@ private slots:
     void appendLogLine(const QString& line, ActivityLog::Level level);
     void encodingChanged(int kind, const CodecPreset& preset, bool on);
     void refreshRunning();
+    // A dialog may have added or removed codec presets or saved servers.
+    void refreshStoreLists();
 
 private:
     void buildDialogButtons();

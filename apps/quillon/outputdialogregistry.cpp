@@ -3,7 +3,10 @@
 #include "activitylog.h"
 #include "filenamingdialog.h"
 #include "filetag.h"
+#include "fileoutputinterface.h"
 #include "hostsession.h"
+#include "recordingsetup.h"
+#include "streamingsetup.h"
 
 #include <memory>
 
@@ -23,11 +26,38 @@ QDialog* createFileNaming(QWidget* parent, HostSession& session)
     return dialog;
 }
 
+// The outputs go on while these dialogs are hidden: the console keeps them and shows them
+// modeless, as the switcher does, so the operator can start a stream and close the window.
+void presentModeless(QDialog* dialog)
+{
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
+}
+
+QDialog* createStreaming(QWidget* parent, HostSession& session)
+{
+    auto* dialog = new StreamingSetup(parent, &session.setup());
+    dialog->reloadPresets();
+    return dialog;
+}
+
+QDialog* createRecording(QWidget* parent, HostSession& session)
+{
+    auto* dialog = new RecordingSetup(parent, &session.setup());
+    dialog->reloadPresets();
+    return dialog;
+}
+
 } // namespace
 
 const QList<OutputDialogRegistry::Entry>& OutputDialogRegistry::entries()
 {
     static const QList<Entry> list{
+        {QStringLiteral("streaming"), QT_TR_NOOP("Streaming…"), QStringLiteral(":/resources/appicons/streaming.png"),
+         true, createStreaming, presentModeless},
+        {QStringLiteral("recording"), QT_TR_NOOP("Recording…"), QStringLiteral(":/resources/appicons/recording.png"),
+         true, createRecording, presentModeless},
         {QStringLiteral("fileNaming"), QT_TR_NOOP("File Naming…"), QStringLiteral(":/resources/appicons/addfiles.png"),
          false, createFileNaming, {}},
     };

@@ -171,6 +171,8 @@ QJsonObject Provider::waitForReply(QNetworkReply* reply, const char* method, con
     if (!reply->isFinished()) {
         QTimer timer;
         timer.setSingleShot(true);
+        // A coarse timer may fire up to 5% early; the limit is a promise to the services.
+        timer.setTimerType(Qt::PreciseTimer);
         QEventLoop loop;
         connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
         connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);

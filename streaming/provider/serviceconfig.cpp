@@ -50,6 +50,15 @@ const Entry entries[] = {
     {"hitbox.api", "https://api.smashcast.tv"},
     {"hitbox.ingest", "rtmp://live.smashcast.tv"},
     {"hitbox.revokeapi", "https://api.smashcast.tv"},
+    {"facebook.ingest", "rtmps://live-api-s.facebook.com:443/rtmp/"},
+    {"twitter.home", "https://twitter.com"},
+    {"mixer.home", "https://mixer.com"},
+    {"restream.home", "https://restream.io"},
+    {"youtube.servers", ""},
+    {"twitch.servers", ""},
+    {"twitter.servers", ""},
+    {"mixer.servers", ""},
+    {"restream.servers", ""},
 };
 
 static_assert(sizeof(entries) / sizeof(entries[0]) == ServiceConfig::KeyCount,

@@ -23,6 +23,10 @@ public:
         UStreamHome, UStreamWeb, UStreamApi, UStreamClientId, UStreamClientSecret,
         DailyMotionHome, DailyMotionWeb, DailyMotionApi, DailyMotionClientId, DailyMotionClientSecret,
         HitboxHome, HitboxWeb, HitboxApi, HitboxIngest, HitboxRevokeApi,
+        // The built-in services of the streaming dialog. A "*.servers" value, when set,
+        // replaces that service's ingest table: a JSON array of [label, url] pairs.
+        FacebookIngest, TwitterHome, MixerHome, RestreamHome,
+        YouTubeServers, TwitchServers, TwitterServers, MixerServers, RestreamServers,
         KeyCount
     };
 

@@ -1,9 +1,11 @@
 #include "recordingsetup.h"
+
 #include "ui_recordingsetup.h"
 
 #include "codectables.h"
 #include "encoderitem.h"
 #include "filenamingdialog.h"
+#include "filetag.h"
 #include "licensemodel.h"
 #include "messagebox.h"
 #include "outputinterface.h"
@@ -88,6 +90,7 @@ RecordingSetup::RecordingSetup(QWidget* parent, OutputInterface* host)
     const QString tag = QSettings().value(QLatin1String(fileTagKey)).toString();
     if (!tag.isEmpty())
         ui->fileTag->setText(tag);
+    ui->folder->setText(FileTag::defaultFolder());
     initializeUi();
 }
 
@@ -344,10 +347,8 @@ void RecordingSetup::videoSourceChange()
 
 void RecordingSetup::existingDirectory()
 {
-    const QString start = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation) + QLatin1Char('/')
-                        + QCoreApplication::applicationName();
     const QString directory = QFileDialog::getExistingDirectory(
-        this, tr("Open Directory"), start, QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
+        this, tr("Open Directory"), FileTag::defaultFolder(), QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
     if (!directory.isEmpty())
         ui->folder->setText(directory);
 }

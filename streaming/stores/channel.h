@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMetaType>
 #include <QString>
 
 // A channel, page or server a provider can stream to.
@@ -20,3 +21,6 @@ struct Channel {
     QString passphrase;
     QString streamId;
 };
+
+// Carried as item data by the server and channel lists.
+Q_DECLARE_METATYPE(Channel)

@@ -1,5 +1,8 @@
 #include "filetag.h"
 
+#include <QCoreApplication>
+#include <QStandardPaths>
+
 #include "codecpreset.h"
 #include "nametables.h"
 #include "snapshot.h"
@@ -124,4 +127,10 @@ void FileTag::setClock(std::function<QDateTime()> clock)
 void FileTag::resetClock()
 {
     fileTagClock() = &QDateTime::currentDateTime;
+}
+
+QString FileTag::defaultFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::MoviesLocation) + QLatin1Char('/')
+         + QCoreApplication::applicationName();
 }

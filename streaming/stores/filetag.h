@@ -21,6 +21,8 @@ class STREAMING_EXPORT FileTag
 public:
     static QString fromCodecPreset(const CodecPreset* preset, bool withExtension);
     static QString fromSnapshot(const Snapshot& shot, bool withExtension);
+    // Where recordings go until the operator picks a folder: the user's movies folder.
+    static QString defaultFolder();
 
     // The clock read once per expansion; tests fix the instant with it.
     static void setClock(std::function<QDateTime()> clock);

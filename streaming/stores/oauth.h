@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMetaType>
 #include <QString>
 
 // An account at a service: its tokens or user name and password.
@@ -12,3 +13,6 @@ struct OAuth {
     QString password;
     bool authorized = false; // the server needs a user name and password
 };
+
+// Carried as item data by the server and channel lists.
+Q_DECLARE_METATYPE(OAuth)

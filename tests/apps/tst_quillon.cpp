@@ -59,6 +59,8 @@ private slots:
     {
         QTest::addColumn<QString>("file");
         QTest::newRow("console") << QStringLiteral("mainwindow.png");
+        QTest::newRow("streaming dialog") << QStringLiteral("streaming.png");
+        QTest::newRow("recording dialog") << QStringLiteral("recording.png");
         QTest::newRow("file naming dialog") << QStringLiteral("filenaming.png");
     }
     void screenshotsOfEveryWindow()

@@ -10,9 +10,6 @@
 
 #include <sys/stat.h>
 
-Q_DECLARE_METATYPE(Channel)
-Q_DECLARE_METATYPE(OAuth)
-
 namespace {
 
 Channel makeChannel(const QString& title, const QString& key = QStringLiteral("key-1"))

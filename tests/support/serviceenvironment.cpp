@@ -33,10 +33,13 @@ bool ServiceEnvironment::isHostKey(ServiceConfig::Key key)
     case ServiceConfig::TwitchIngest:
     case ServiceConfig::TwitchIrc:
     case ServiceConfig::HitboxIngest:
+    case ServiceConfig::FacebookIngest:
         return false;
     default: {
+        // Server tables are JSON, not addresses; tests that need one set it themselves.
         const QString name = ServiceConfig::keyName(key);
-        return !name.endsWith(QLatin1String(".clientid")) && !name.endsWith(QLatin1String(".clientsecret"));
+        return !name.endsWith(QLatin1String(".clientid")) && !name.endsWith(QLatin1String(".clientsecret"))
+            && !name.endsWith(QLatin1String(".servers"));
     }
     }
 }

@@ -1,0 +1,727 @@
+#include "streamingsetup.h"
+
+#include "ui_basewidget.h"
+#include "ui_streamingsetup.h"
+
+#include "authorizedialog.h"
+#include "bandwidthwidget.h"
+#include "channelevents.h"
+#include "codectables.h"
+#include "custom.h"
+#include "customservers.h"
+#include "duplicatestreamcheck.h"
+#include "encoderitem.h"
+#include "filenamingdialog.h"
+#include "filetag.h"
+#include "hitbox.h"
+#include "messagebox.h"
+#include "outputinterface.h"
+#include "panelupdater.h"
+#include "qmessageboxex.h"
+#include "quillonengine.h"
+#include "servicetables.h"
+#include "simpleprovider.h"
+#include "splashwidget.h"
+#include "streamingformlists.h"
+#include "streamingmanager.h"
+#include "streamingpresetjson.h"
+#include "ustream.h"
+#include "webdialog.h"
+
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QJsonArray>
+#include <QLabel>
+#include <QNetworkAccessManager>
+#include <QPushButton>
+#include <QScreen>
+#include <QSettings>
+#include <QSignalMapper>
+#include <QStandardPaths>
+#include <QTimer>
+#include <QUuid>
+
+namespace {
+
+using SourceMap = QMap<int, int>;
+
+const char settingsKey[] = "STREAMING";
+
+// Signal-mapper ids: one bit per panel control, so one call can name several.
+enum PanelId : int {
+    ServiceId = 0x40,
+    AuthorizeId = 0x80,
+    RefreshId = 0x100, // no control: queued after an action to re-sync the authorize text
+    SignUpId = 0x200,
+    ServerId = 0x400,
+    BestServerId = 0x800,
+    CustomSelectId = 0x1000,
+    CustomAddId = 0x2000,
+    CustomRemoveId = 0x4000,
+    CustomEditId = 0x8000,
+    ChannelSelectId = 0x10000,
+    ChannelAddId = 0x20000,
+    ChannelRemoveId = 0x40000,
+    ChannelEditId = 0x80000,
+    SharingOpenId = 0x200000,
+    PageSelectId = 0x400000,
+    PageReloadId = 0x800000,
+    StreamKeyId = 0x1000000,
+};
+
+const QColor busyColor(237, 110, 0);
+constexpr int bandwidthLinger = 1500;
+
+CodecPreset presetOf(const QListWidgetItem* item)
+{
+    return item ? item->data(Qt::UserRole).value<CodecPreset>() : CodecPreset();
+}
+
+// Services that log in with a user name and password rather than a web page.
+bool usesPasswordLogin(const Provider* provider)
+{
+    return qobject_cast<const Hitbox*>(provider) || qobject_cast<const UStream*>(provider);
+}
+
+// "ql.stream.key" maps each service to the last key pasted for it.
+void rememberStreamKey(const QString& service, const QString& key)
+{
+    QSettings store;
+    QVariantMap keys = store.value(SimpleProvider::streamKeySetting).toMap();
+    keys.insert(service, key);
+    store.setValue(SimpleProvider::streamKeySetting, keys);
+    store.sync();
+}
+
+// The caption column of the panel and the rows below it share one width: the widest text.
+void alignCaptions(const QList<QLabel*>& labels)
+{
+    int width = 0;
+    for (const QLabel* label : labels)
+        width = qMax(width, label->sizeHint().width());
+    for (QLabel* label : labels)
+        label->setFixedWidth(width);
+}
+
+} // namespace
+
+StreamingSetup::StreamingSetup(QWidget* parent, OutputInterface* host)
+    : QDialog(parent), ui(new Ui::StreamingSetup), host(host)
+{
+    ui->setupUi(this);
+    ui->tabWidget->removeTab(ui->tabWidget->indexOf(ui->tabPreset));
+    if (QPushButton* close = ui->buttonBox->button(QDialogButtonBox::Close)) {
+        close->setText(tr("Close"));
+        close->setMinimumWidth(close->fontMetrics().horizontalAdvance(close->text()) + 20);
+    }
+    connect(ui->buttonBox, &QDialogButtonBox::clicked, this, &QDialog::close);
+    Ui::BaseWidget* panel = ui->baseWidget->form();
+    alignCaptions({panel->providerLabel, panel->pageLabel, panel->channelLabel, panel->serverLabel,
+                   panel->customLabel, panel->streamUrlLabel, panel->streamKeyLabel, panel->sharingLabel,
+                   ui->codecLabel, ui->videoSourceLabel, ui->audioSourceLabel, ui->presetNameLabel});
+
+    settings = CodecTables::licenseModel();
+    const QMap<int, QString>& containers = settings.containers();
+    for (auto it = containers.cbegin(); it != containers.cend(); ++it)
+        ui->containerList->addItem(it.value().toUpper(), it.key());
+
+    const QString resolution = QStringLiteral("%1 x %2").arg(settings.maxWidth(), 4).arg(settings.maxHeight(), 4);
+    const QString streams = QStringLiteral("%1").arg(settings.maxStreaming());
+    ui->maxResolution->setText(resolution);
+    ui->maxStreaming->setText(streams);
+    ui->maxResolutionSave->setText(resolution);
+    ui->maxStreamingSave->setText(streams);
+
+    ui->saveGroup->setChecked(false);
+    ui->folder->setText(FileTag::defaultFolder());
+    ui->splitTimeList->setEnabled(false);
+    StreamingFormLists::fillSplitTimes(ui->splitTimeList);
+    connect(ui->splitFile, &QCheckBox::toggled, ui->splitTimeList, &QWidget::setEnabled);
+
+    connect(ui->browse, &QToolButton::clicked, this, &StreamingSetup::existingDirectory);
+    connect(ui->namingEdit, &QToolButton::clicked, this, &StreamingSetup::showNamingEdit);
+    ui->namingEdit->setToolTip(tr("Edit Naming"));
+
+    networkManager = new QNetworkAccessManager(this);
+    bandwidth = new BandwidthWidget(this);
+    bandwidth->setFixedSize(BandwidthWidget::fixedWidth, BandwidthWidget::fixedHeight);
+    bandwidth->setColor(busyColor);
+    m_bandwidthWatch = new QTimer(this);
+    m_bandwidthWatch->setInterval(200);
+    connect(m_bandwidthWatch, &QTimer::timeout, this, [this] {
+        if (bandwidth->isRunning())
+            return;
+        m_bandwidthWatch->stop();
+        QTimer::singleShot(bandwidthLinger, bandwidth, &QWidget::hide);
+    });
+    splash = new SplashWidget(this);
+    splash->setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    splash->setFixedSize(100, 100);
+    splash->setColor(busyColor);
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        splash->move(screen->availableGeometry().center() - splash->rect().center());
+
+    m_panel = std::make_unique<PanelUpdater>(ui->baseWidget);
+    m_customServers = std::make_unique<CustomServers>(ui->baseWidget->form()->customSelect);
+
+    ui->addPreset->setEnabled(false);
+    ui->removePreset->setEnabled(false);
+    initializeProvider();
+    initializeUi();
+}
+
+StreamingSetup::~StreamingSetup()
+{
+    bandwidth->stop();
+    delete webDialog;
+    qDeleteAll(providers);
+    providers.clear();
+    delete ui;
+}
+
+void StreamingSetup::initializeProvider()
+{
+    qDeleteAll(providers);
+    providers.clear();
+    m_serviceIcons.clear();
+    for (const ServiceTables::Service& service : ServiceTables::services()) {
+        m_serviceIcons.insert(service.name, service.icon);
+        switch (service.kind) {
+        case ServiceTables::Kind::Hitbox:
+            providers.append(new Hitbox(this));
+            break;
+        case ServiceTables::Kind::Custom:
+            providers.append(new Custom(this));
+            break;
+        case ServiceTables::Kind::Simple:
+            providers.append(new SimpleProvider(this, service.features, service.name, service.homeUrl,
+                                                service.streamUrl, service.servers));
+            break;
+        }
+    }
+}
+
+void StreamingSetup::initializeUi()
+{
+    Ui::BaseWidget* panel = ui->baseWidget->form();
+    webDialog = new WebDialog(nullptr);
+    webDialog->setModal(true);
+    StreamingFormLists::fillSources(ui->videoSourceList, ui->audioSourceList, settings,
+                                    QuillonEngine::projectPreset());
+    ui->codecList->initialize(CodecTables::UsageStreaming, LicenseModel::usageStreaming,
+                              settings.availableAudioMask());
+    ui->codecList->setCodecMask(settings.availableVideoMask(), settings.availableAudioMask());
+
+    connect(ui->addPreset, &QToolButton::clicked, this, &StreamingSetup::updatePreset);
+    connect(ui->removePreset, &QToolButton::clicked, this, &StreamingSetup::updatePreset);
+    connect(ui->encoderList, &QListWidget::currentRowChanged, this, &StreamingSetup::updatePreset);
+    connect(ui->encoderList, &QListWidget::itemDoubleClicked, this, &StreamingSetup::updatePreset);
+    connect(ui->codecList, &EncoderListWidget::presetChanged, this, &StreamingSetup::updatePreset);
+    connect(bandwidth, &BandwidthWidget::bestServerChanged, panel->serverSelect, &QComboBox::setCurrentText,
+            Qt::QueuedConnection);
+    connect(ui->videoSourceList, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &StreamingSetup::videoSourceChange);
+    ui->addPreset->setEnabled(ui->codecList->count() > 0);
+
+    for (Provider* provider : qAsConst(providers)) {
+        const QIcon icon = provider->icon().isNull() ? QIcon(m_serviceIcons.value(provider->name())) : QIcon(provider->icon());
+        panel->providerSelect->addItem(icon, provider->name(), QVariant::fromValue(provider));
+        if (provider->name() == ServiceTables::customName())
+            panel->providerSelect->insertSeparator(panel->providerSelect->count());
+    }
+    if (!providers.isEmpty())
+        panel->providerSelect->setCurrentText(providers.last()->name());
+
+    m_customServers->fill();
+    mapPanelControls();
+    signalMapper(ServiceId);
+
+    ui->addPreset->setText(tr("Add Presets"));
+    ui->addPreset->setToolTip(tr("Add Presets"));
+    ui->removePreset->setText(tr("Remove Presets"));
+    ui->removePreset->setToolTip(tr("Remove Presets"));
+}
+
+void StreamingSetup::mapPanelControls()
+{
+    Ui::BaseWidget* f = ui->baseWidget->form();
+    m_mapper = new QSignalMapper(this);
+    const auto mapCombo = [this](QComboBox* combo, int id) {
+        connect(combo, qOverload<int>(&QComboBox::currentIndexChanged), m_mapper, qOverload<>(&QSignalMapper::map));
+        m_mapper->setMapping(combo, id);
+    };
+    const auto mapButton = [this](QAbstractButton* button, int id) {
+        connect(button, &QAbstractButton::clicked, m_mapper, qOverload<>(&QSignalMapper::map));
+        m_mapper->setMapping(button, id);
+    };
+    mapCombo(f->providerSelect, ServiceId);
+    mapButton(f->authorize, AuthorizeId);
+    mapButton(f->signUp, SignUpId);
+    mapCombo(f->serverSelect, ServerId);
+    mapButton(f->serverBandwidth, BestServerId);
+    mapCombo(f->customSelect, CustomSelectId);
+    mapButton(f->customAdd, CustomAddId);
+    mapButton(f->customRemove, CustomRemoveId);
+    mapButton(f->customEdit, CustomEditId);
+    mapCombo(f->channelSelect, ChannelSelectId);
+    mapButton(f->channelAdd, ChannelAddId);
+    mapButton(f->channelRemove, ChannelRemoveId);
+    mapButton(f->channelEdit, ChannelEditId);
+    mapButton(f->sharingUrlOpen, SharingOpenId);
+    mapCombo(f->pageSelect, PageSelectId);
+    mapButton(f->pageReload, PageReloadId);
+    connect(f->streamKey, &QLineEdit::textEdited, m_mapper, qOverload<>(&QSignalMapper::map));
+    m_mapper->setMapping(f->streamKey, StreamKeyId);
+    connect(m_mapper, &QSignalMapper::mappedInt, this, &StreamingSetup::signalMapper);
+}
+
+Provider* StreamingSetup::provider() const
+{
+    return ui->baseWidget->form()->providerSelect->currentData().value<Provider*>();
+}
+
+void StreamingSetup::signalMapper(int id)
+{
+    Ui::BaseWidget* f = ui->baseWidget->form();
+    Provider* current = provider();
+    f->authorize->setText(current && current->isAuthorized() ? tr("Deauthorize") : tr("Authorize"));
+    if (!current)
+        return;
+
+    switch (id) {
+    case ServiceId:
+        updateUi(false);
+        break;
+    case AuthorizeId:
+        authorizeProvider(current);
+        break;
+    case SignUpId:
+        QDesktopServices::openUrl(current->homeUrl());
+        break;
+    case ServerId:
+        m_panel->applyServer(current);
+        break;
+    case BestServerId:
+        bandwidthTest();
+        break;
+    case CustomSelectId:
+        m_panel->applyCustomServer(current);
+        break;
+    case CustomAddId:
+    case CustomRemoveId:
+    case CustomEditId: {
+        const bool changed = id == CustomAddId      ? m_customServers->add(this)
+                           : id == CustomRemoveId ? m_customServers->remove(this)
+                                                  : m_customServers->edit(this);
+        if (changed)
+            m_panel->applyCustomServer(current);
+        break;
+    }
+    case ChannelSelectId:
+        m_panel->applyChannel(current);
+        break;
+    case ChannelAddId:
+    case ChannelRemoveId:
+    case ChannelEditId: {
+        const int index = f->channelSelect->currentIndex();
+        const ChannelEvents::Result result = id == ChannelAddId ? ChannelEvents::add(this, current, index)
+                                           : id == ChannelEditId ? ChannelEvents::edit(this, current, index)
+                                                                 : ChannelEvents::remove(this, current, index);
+        if (result == ChannelEvents::Result::Failed)
+            errorMessage();
+        if (result != ChannelEvents::Result::Cancelled)
+            updateChannelUi();
+        break;
+    }
+    case SharingOpenId:
+        QDesktopServices::openUrl(QUrl(f->sharingUrlInput->text()));
+        break;
+    case PageSelectId: {
+        const int index = f->pageSelect->currentIndex();
+        if (index >= 0 && index < current->pages().size()) {
+            current->setPageId(current->pages().at(index).id);
+            current->setPageToken(current->pages().at(index).accessToken);
+            reloadChannels(current);
+        }
+        break;
+    }
+    case PageReloadId:
+        reloadChannels(current);
+        break;
+    case StreamKeyId:
+        current->setStreamKey(f->streamKey->text());
+        rememberStreamKey(current->name(), f->streamKey->text());
+        break;
+    default:
+        break;
+    }
+}
+
+void StreamingSetup::authorizeProvider(Provider* current)
+{
+    if (current->isAuthorized()) {
+        setBusy(true);
+        const bool revoked = current->revoke();
+        setBusy(false);
+        if (!revoked)
+            errorMessage();
+        updateUi(true);
+    } else if (usesPasswordLogin(current)) {
+        AuthorizeDialog dialog(this);
+        if (dialog.exec() != QDialog::Accepted)
+            return;
+        setBusy(true);
+        const bool loggedIn = current->login(dialog.username(), dialog.password());
+        setBusy(false);
+        if (!loggedIn)
+            errorMessage();
+        updateUi(true);
+    } else if (!current->authorize(QUrl())) {
+        errorMessage();
+    }
+    // The text shows the state before this action; the queued call shows the new one.
+    QMetaObject::invokeMethod(this, [this] { signalMapper(RefreshId); }, Qt::QueuedConnection);
+}
+
+void StreamingSetup::reloadChannels(Provider* current)
+{
+    setBusy(true);
+    const bool loaded = current->loadChannels();
+    setBusy(false);
+    if (!loaded)
+        errorMessage();
+    updateChannelUi();
+}
+
+void StreamingSetup::setBusy(bool busy)
+{
+    if (busy) {
+        disableUi();
+        splash->show();
+        splash->start();
+    } else {
+        splash->stop();
+        splash->hide();
+        enableUi();
+    }
+}
+
+void StreamingSetup::updateUi(bool keepSelection)
+{
+    m_panel->update(provider(), keepSelection);
+}
+
+void StreamingSetup::updateChannelUi()
+{
+    m_panel->updateChannels(provider());
+}
+
+void StreamingSetup::enableUi()
+{
+    ui->tabStreaming->setEnabled(true);
+}
+
+void StreamingSetup::disableUi()
+{
+    ui->tabStreaming->setEnabled(false);
+}
+
+void StreamingSetup::errorMessage()
+{
+    splash->stop();
+    splash->hide();
+    const Provider* current = provider();
+    if (!current)
+        return;
+    const QStringList parts = current->lastError().split(QLatin1Char(','));
+    if (parts.size() == 2)
+        MessageBox::warning(this, parts.at(0), parts.at(1), QMessageBox::Ok);
+}
+
+QNetworkAccessManager* StreamingSetup::networkAccessManager()
+{
+    return networkManager;
+}
+
+void StreamingSetup::openWebAuthorize(const QUrl& url)
+{
+    disconnect(m_webConnection);
+    m_webConnection = connect(webDialog, &WebDialog::urlChanged, this, &StreamingSetup::webAuthorizeUrlChange);
+    webDialog->load(url);
+    webDialog->show();
+}
+
+void StreamingSetup::closeWebAuthorize()
+{
+    disconnect(m_webConnection);
+    webDialog->clear();
+    webDialog->hide();
+}
+
+void StreamingSetup::bandwidthTest()
+{
+    bandwidth->start(provider());
+    bandwidth->move(mapToGlobal(rect().center()) - bandwidth->rect().center());
+    bandwidth->show();
+    m_bandwidthWatch->start();
+}
+
+void StreamingSetup::debugMessage(const QString&, const QJsonArray&)
+{
+}
+
+void StreamingSetup::debugMessage(const QString&, const QJsonObject&)
+{
+}
+
+void StreamingSetup::debugMessage(const QString&, const QStringList&)
+{
+}
+
+void StreamingSetup::webAuthorizeUrlChange(const QUrl& url)
+{
+    if (!url.isValid())
+        return;
+    Provider* current = provider();
+    if (!current)
+        return;
+    splash->show();
+    splash->start();
+    if (!current->authorize(url)) {
+        errorMessage();
+    } else if (current->isAuthorized()) {
+        enableUi();
+        updateUi(true);
+        const bool pageService = current->name() == ServiceTables::facebookName()
+                              || current->name() == ServiceTables::dailyMotionName();
+        if (pageService && (!current->pages().isEmpty() || !current->channels().isEmpty()))
+            updateChannelUi();
+        QMetaObject::invokeMethod(this, [this] { signalMapper(RefreshId); }, Qt::QueuedConnection);
+    }
+    splash->stop();
+    splash->hide();
+}
+
+QList<CodecPreset> StreamingSetup::codecPresets() const
+{
+    QList<CodecPreset> presets;
+    for (int row = 0; row < ui->encoderList->count(); ++row)
+        presets.append(presetOf(ui->encoderList->item(row)));
+    return presets;
+}
+
+bool StreamingSetup::encoding(bool on)
+{
+    if (on && ui->encoderList->count() == 0)
+        return false;
+    for (int row = 0; row < ui->encoderList->count(); ++row)
+        if (auto* item = qobject_cast<EncoderItem*>(ui->encoderList->itemWidget(ui->encoderList->item(row))))
+            item->setChecked(on);
+    return true;
+}
+
+bool StreamingSetup::isEncoding() const
+{
+    for (int row = 0; row < ui->encoderList->count(); ++row) {
+        const auto* item = qobject_cast<EncoderItem*>(ui->encoderList->itemWidget(ui->encoderList->item(row)));
+        if (item && item->isChecked())
+            return true;
+    }
+    return false;
+}
+
+void StreamingSetup::reloadPresets()
+{
+    if (!providers.isEmpty())
+        ui->baseWidget->form()->providerSelect->setCurrentText(providers.last()->name());
+    ui->presetName->clear();
+    loadSetting();
+}
+
+void StreamingSetup::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (QListWidgetItem* item = ui->encoderList->currentItem()) {
+        applyRow(presetOf(item));
+    } else {
+        if (!lastFolder.isEmpty())
+            ui->folder->setText(lastFolder);
+        if (!lastFileTag.isEmpty())
+            ui->fileTag->setText(lastFileTag);
+    }
+}
+
+void StreamingSetup::hideEvent(QHideEvent* event)
+{
+    QDialog::hideEvent(event);
+}
+
+void StreamingSetup::applyRow(const CodecPreset& preset)
+{
+    Ui::BaseWidget* f = ui->baseWidget->form();
+    const CodecModel::Streaming& s = preset.streaming();
+    f->providerSelect->setCurrentText(s.provider);
+    if (s.provider == ServiceTables::customName())
+        f->customSelect->setCurrentText(s.serverName);
+    else
+        f->serverSelect->setCurrentText(s.serverName);
+    f->pageSelect->setCurrentText(s.pageName);
+    f->channelSelect->setCurrentText(s.channelName);
+    StreamingFormLists::selectSource(ui->videoSourceList, preset.videoSource());
+    StreamingFormLists::selectSource(ui->audioSourceList, preset.audioSource());
+    ui->codecList->selectPreset(preset);
+}
+
+void StreamingSetup::updatePreset()
+{
+    const QObject* from = sender();
+    if (from == ui->addPreset) {
+        addPresetClicked();
+    } else if (from == ui->removePreset) {
+        removePresetClicked();
+    } else if (from == ui->encoderList) {
+        QListWidgetItem* item = ui->encoderList->currentItem();
+        ui->removePreset->setEnabled(item != nullptr);
+        if (item)
+            applyRow(presetOf(item));
+    } else if (from == ui->codecList) {
+        ui->addPreset->setEnabled(ui->codecList->count() > 0);
+    }
+}
+
+void StreamingSetup::addPresetClicked()
+{
+    if (ui->encoderList->count() >= settings.maxStreaming()) {
+        MessageBox::warning(this, tr("Preset"), tr("Check the maximum number of streams."));
+        return;
+    }
+    const CodecModel::Streaming target = m_panel->target(provider());
+    QList<CodecModel::Streaming> rows;
+    for (const CodecPreset& preset : codecPresets())
+        rows.append(preset.streaming());
+    if (DuplicateStreamCheck::findDuplicate(target, rows) >= 0) {
+        MessageBox::warning(this, tr("Streaming"), tr("Check the same streaming url!"));
+        return;
+    }
+    CodecPreset preset = presetFromControls(nameOrUntitled());
+    preset.setId(QUuid::createUuid().toString());
+    preset.streaming() = target;
+    lastFolder = ui->folder->text();
+    lastFileTag = ui->fileTag->text();
+    lastPresetName = ui->presetName->text();
+    addRow(preset);
+    ui->encoderList->setCurrentRow(ui->encoderList->count() - 1);
+    saveSetting();
+}
+
+void StreamingSetup::removePresetClicked()
+{
+    QListWidgetItem* item = ui->encoderList->currentItem();
+    if (!item)
+        return;
+    const auto* row = qobject_cast<EncoderItem*>(ui->encoderList->itemWidget(item));
+    if (row && row->isChecked()) {
+        MessageBox::warning(this, tr("Preset"), tr("Please try again after streaming is finished."));
+        return;
+    }
+    if (QMessageBoxEx::question(this, tr("Preset"), tr("Are you sure you want to remove this item?"),
+                                QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
+        != QMessageBox::Yes)
+        return;
+    ui->encoderList->removeItemWidget(item);
+    delete item;
+    saveSetting();
+}
+
+QString StreamingSetup::nameOrUntitled() const
+{
+    const QString name = ui->presetName->text();
+    return name.isEmpty() ? tr("Untitled") : name;
+}
+
+CodecPreset StreamingSetup::presetFromControls(const QString& name) const
+{
+    CodecPreset preset = ui->codecList->currentPreset();
+    preset.setName(name);
+    preset.videoSource() = ui->videoSourceList->currentData().value<SourceMap>();
+    preset.audioSource() = ui->audioSourceList->currentData().value<SourceMap>();
+    preset.container().name = ui->containerList->currentText().toLower();
+    preset.container().id = ui->containerList->currentData().toInt();
+    CodecModel::Local& local = preset.local();
+    local.enabled = ui->saveGroup->isChecked();
+    local.path = ui->folder->text();
+    local.fileTag = ui->fileTag->text();
+    if (ui->splitFile->isChecked())
+        local.splitTime = ui->splitTimeList->currentData().toInt();
+    preset.streaming().enabled = true;
+    return preset;
+}
+
+void StreamingSetup::addRow(const CodecPreset& preset)
+{
+    auto* item = new QListWidgetItem(ui->encoderList);
+    item->setData(Qt::UserRole, QVariant::fromValue(preset));
+    item->setData(Qt::UserRole + 1, preset.streaming().provider);
+    // The row's button asks the engine to start or stop the stream, as recording rows do, and
+    // then tells the host (kind 0): the host expects the library to drive the encoder.
+    auto* row = new EncoderItem(nullptr, host, 0);
+    row->setPreset(item, &preset);
+    item->setSizeHint(row->size());
+    ui->encoderList->setItemWidget(item, row);
+}
+
+void StreamingSetup::videoSourceChange()
+{
+    StreamingFormLists::selectSource(ui->audioSourceList, ui->videoSourceList->currentData().value<SourceMap>());
+}
+
+void StreamingSetup::existingDirectory()
+{
+    const QString directory = QFileDialog::getExistingDirectory(
+        this, tr("Open Directory"), FileTag::defaultFolder(), QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
+    if (!directory.isEmpty())
+        ui->folder->setText(directory);
+}
+
+void StreamingSetup::showNamingEdit()
+{
+    CodecPreset preset = presetFromControls(nameOrUntitled());
+    preset.local().enabled = true;
+    preset.streaming().enabled = false;
+    FileNamingDialog dialog(this, &preset, nullptr);
+    if (dialog.exec() == QDialog::Accepted)
+        ui->fileTag->setText(dialog.fileTag());
+}
+
+void StreamingSetup::loadSetting()
+{
+    ui->encoderList->clear();
+    if (!host)
+        return;
+    const QJsonArray array = host->settings().value(QLatin1String(settingsKey)).toArray();
+    for (int i = 0; i < array.size(); ++i) {
+        if (!array.at(i).isObject()) {
+            qCWarning(lcStreamingSetup) << "entry" << i << "of" << settingsKey << "is not an object; skipped";
+            continue;
+        }
+        addRow(StreamingPresetJson::fromJson(array.at(i).toObject()));
+    }
+    if (ui->encoderList->count() > 0)
+        ui->encoderList->setCurrentRow(0);
+}
+
+void StreamingSetup::saveSetting()
+{
+    if (!host)
+        return;
+    QJsonArray array;
+    for (const CodecPreset& preset : codecPresets())
+        array.append(StreamingPresetJson::toJson(preset));
+    host->setSettings(QLatin1String(settingsKey), array);
+}
+
+void StreamingSetup::removeSetting()
+{
+    if (host)
+        host->setSettings(QLatin1String(settingsKey), QJsonArray());
+}
