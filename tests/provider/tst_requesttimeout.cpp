@@ -28,15 +28,14 @@ private slots:
 void TestRequestTimeout::silentServerGivesEmptyObjectAndReleasesReply()
 {
     HttpServer server;
-    server.on("GET", QStringLiteral("/channels"), HttpServer::Reply{200, {}, "application/json", {}, true});
+    server.on("GET", "/channels", HttpServer::Reply{200, {}, "application/json", {}, true});
     FakeView view;
-    auto provider = std::make_unique<WaitingProvider>(&view, QStringLiteral("Test"));
+    auto provider = std::make_unique<WaitingProvider>(&view, "Test");
 
     QElapsedTimer timer;
     timer.start();
-    const QJsonObject reply = provider->get(QNetworkRequest(QUrl(server.baseUrl() + QStringLiteral("/channels"))));
+    const QJsonObject reply = provider->get(QNetworkRequest(QUrl(server.baseUrl() + "/channels")));
     const qint64 waited = timer.elapsed();
-
     QVERIFY(reply.isEmpty());
     QVERIFY2(waited >= Provider::requestTimeout - 50, qPrintable(QString::number(waited)));
     QCOMPARE(server.heldCount(), 1);

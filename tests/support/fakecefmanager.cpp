@@ -1,26 +1,32 @@
 #include "fakecefmanager.h"
 
-#include "fakebrowsermanager.h"
+#include "browsermanager.h"
 #include "icefcapturecallback.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
 
-FakeCefManager::FakeCefManager()
+// A browser of FakeCefManager: remembers what it was told to load.
+class FakeBrowserManager : public BrowserManager
 {
-    CefManager::setInstance(this);
-}
+public:
+    using BrowserManager::BrowserManager;
+    QString currentUrl() const override { return url; }
+    bool isLoading() const override { return false; }
+    QString url;
+};
 
-FakeCefManager::~FakeCefManager()
+namespace {
+QString at(const char* what, const QMouseEvent* event)
 {
-    CefManager::setInstance(nullptr);
+    return QStringLiteral("%1 %2,%3").arg(QLatin1String(what)).arg(event->x()).arg(event->y());
 }
+} // namespace
 
-bool FakeCefManager::hasEngine() const
-{
-    return true;
-}
+FakeCefManager::FakeCefManager() { CefManager::setInstance(this); }
+FakeCefManager::~FakeCefManager() { CefManager::setInstance(nullptr); }
+bool FakeCefManager::hasEngine() const { return true; }
 
 BrowserManager* FakeCefManager::createBrowser(ICefCaptureCallback* callback)
 {
@@ -38,81 +44,48 @@ void FakeCefManager::deleteBrowser(ICefCaptureCallback* callback)
 
 BrowserManager* FakeCefManager::findBrowser(ICefCaptureCallback* callback) const
 {
-    const auto found = m_browsers.constFind(callback);
-    return found == m_browsers.constEnd() ? nullptr : found.value().get();
+    return m_browsers.value(callback).get();
 }
 
 void FakeCefManager::loadUrl(ICefCaptureCallback* callback, const QString& url)
 {
-    const auto found = m_browsers.constFind(callback);
-    if (found == m_browsers.constEnd())
-        return;
-    found.value()->setCurrentUrl(url);
-    m_calls << QStringLiteral("loadUrl ") + url;
+    if (FakeBrowserManager* browser = m_browsers.value(callback).get()) {
+        browser->url = url;
+        m_calls << QStringLiteral("loadUrl ") + url;
+    }
 }
 
 void FakeCefManager::resized(ICefCaptureCallback* callback)
 {
-    const QSize size = callback->size();
-    m_calls << QStringLiteral("resized %1x%2").arg(size.width()).arg(size.height());
+    m_calls << QStringLiteral("resized %1x%2").arg(callback->size().width()).arg(callback->size().height());
 }
 
-void FakeCefManager::mousePressEvent(ICefCaptureCallback*, QMouseEvent* event)
-{
-    m_calls << QStringLiteral("mousePress %1,%2").arg(event->x()).arg(event->y());
-}
-
+void FakeCefManager::mousePressEvent(ICefCaptureCallback*, QMouseEvent* event) { m_calls << at("mousePress", event); }
 void FakeCefManager::mouseReleaseEvent(ICefCaptureCallback*, QMouseEvent* event)
 {
-    m_calls << QStringLiteral("mouseRelease %1,%2").arg(event->x()).arg(event->y());
+    m_calls << at("mouseRelease", event);
 }
-
-void FakeCefManager::mouseMoveEvent(ICefCaptureCallback*, QMouseEvent* event)
-{
-    m_calls << QStringLiteral("mouseMove %1,%2").arg(event->x()).arg(event->y());
-}
-
+void FakeCefManager::mouseMoveEvent(ICefCaptureCallback*, QMouseEvent* event) { m_calls << at("mouseMove", event); }
 void FakeCefManager::mouseDoubleClickEvent(ICefCaptureCallback*, QMouseEvent* event)
 {
-    m_calls << QStringLiteral("mouseDoubleClick %1,%2").arg(event->x()).arg(event->y());
+    m_calls << at("mouseDoubleClick", event);
 }
-
 void FakeCefManager::wheelEvent(ICefCaptureCallback*, QWheelEvent* event)
 {
     m_calls << QStringLiteral("wheel %1").arg(event->angleDelta().y());
 }
+void FakeCefManager::keyPressEvent(ICefCaptureCallback*, QKeyEvent* event) { m_calls << "keyPress " + event->text(); }
+void FakeCefManager::deleteCookies() { m_calls << QStringLiteral("deleteCookies"); }
 
-void FakeCefManager::keyPressEvent(ICefCaptureCallback*, QKeyEvent* event)
-{
-    m_calls << QStringLiteral("keyPress ") + event->text();
-}
-
-void FakeCefManager::deleteCookies()
-{
-    m_calls << QStringLiteral("deleteCookies");
-}
-
-QStringList FakeCefManager::calls() const
-{
-    return m_calls;
-}
-
-void FakeCefManager::clearCalls()
-{
-    m_calls.clear();
-}
-
-int FakeCefManager::browserCount() const
-{
-    return m_browsers.size();
-}
+QStringList FakeCefManager::calls() const { return m_calls; }
+void FakeCefManager::clearCalls() { m_calls.clear(); }
+int FakeCefManager::browserCount() const { return m_browsers.size(); }
 
 void FakeCefManager::deliverFrame(ICefCaptureCallback* callback, const QImage& image)
 {
     const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
     // The engine hands over tightly packed rows.
     QByteArray packed;
-    packed.reserve(argb.width() * argb.height() * 4);
     for (int y = 0; y < argb.height(); ++y)
         packed.append(reinterpret_cast<const char*>(argb.constScanLine(y)), argb.width() * 4);
     callback->onPaint(packed.constData(), argb.width(), argb.height());
@@ -120,8 +93,7 @@ void FakeCefManager::deliverFrame(ICefCaptureCallback* callback, const QImage& i
 
 void FakeCefManager::navigate(ICefCaptureCallback* callback, const QString& url)
 {
-    const auto found = m_browsers.constFind(callback);
-    if (found != m_browsers.constEnd())
-        found.value()->setCurrentUrl(url);
+    if (FakeBrowserManager* browser = m_browsers.value(callback).get())
+        browser->url = url;
     callback->onUrlChanged(url);
 }

@@ -3,47 +3,18 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-FakeView::FakeView()
-    : m_manager(std::make_unique<QNetworkAccessManager>())
-{
-}
-
+FakeView::FakeView() : m_manager(std::make_unique<QNetworkAccessManager>()) {}
 FakeView::~FakeView() = default;
 
-QNetworkAccessManager* FakeView::networkAccessManager()
-{
-    return m_manager.get();
-}
+QNetworkAccessManager* FakeView::networkAccessManager() { return m_manager.get(); }
+void FakeView::openWebAuthorize(const QUrl& url) { openedUrls.append(url); }
+void FakeView::closeWebAuthorize() { ++closeCount; }
+void FakeView::bandwidthTest() { ++bandwidthCount; }
+void FakeView::resetManager() { m_manager.reset(); }
 
-void FakeView::openWebAuthorize(const QUrl& url)
-{
-    openedUrls.append(url);
-}
-
-void FakeView::closeWebAuthorize()
-{
-    ++closeCount;
-}
-
-void FakeView::bandwidthTest()
-{
-    ++bandwidthCount;
-}
-
-void FakeView::debugMessage(const QString& tag, const QJsonArray& data)
-{
-    messages.append({tag, QVariant::fromValue(data)});
-}
-
-void FakeView::debugMessage(const QString& tag, const QJsonObject& data)
-{
-    messages.append({tag, QVariant::fromValue(data)});
-}
-
-void FakeView::debugMessage(const QString& tag, const QStringList& data)
-{
-    messages.append({tag, QVariant::fromValue(data)});
-}
+void FakeView::debugMessage(const QString& tag, const QJsonArray& data) { messages.append({tag, QVariant(data)}); }
+void FakeView::debugMessage(const QString& tag, const QJsonObject& data) { messages.append({tag, QVariant(data)}); }
+void FakeView::debugMessage(const QString& tag, const QStringList& data) { messages.append({tag, QVariant(data)}); }
 
 QStringList FakeView::tags() const
 {
@@ -51,9 +22,4 @@ QStringList FakeView::tags() const
     for (const auto& message : messages)
         result.append(message.first);
     return result;
-}
-
-void FakeView::resetManager()
-{
-    m_manager.reset();
 }

@@ -5,27 +5,10 @@
 #include <QUrl>
 
 namespace {
-
 QByteArray routeKey(const QByteArray& method, const QString& path)
 {
     return method + ' ' + path.toUtf8();
 }
-
-QByteArray reasonPhrase(int status)
-{
-    switch (status) {
-    case 200: return "OK";
-    case 201: return "Created";
-    case 204: return "No Content";
-    case 400: return "Bad Request";
-    case 401: return "Unauthorized";
-    case 403: return "Forbidden";
-    case 404: return "Not Found";
-    case 500: return "Internal Server Error";
-    default: return "Status";
-    }
-}
-
 } // namespace
 
 QByteArray HttpServer::Request::header(const QByteArray& name) const
@@ -62,24 +45,14 @@ HttpServer::HttpServer(QObject* parent)
     m_server.listen(QHostAddress::LocalHost, 0);
 }
 
-HttpServer::~HttpServer()
-{
-    m_server.close();
-}
-
-quint16 HttpServer::port() const
-{
-    return m_server.serverPort();
-}
-
-QString HttpServer::baseUrl() const
-{
-    return QStringLiteral("http://127.0.0.1:%1").arg(port());
-}
+HttpServer::~HttpServer() { m_server.close(); }
+quint16 HttpServer::port() const { return m_server.serverPort(); }
+QString HttpServer::baseUrl() const { return QStringLiteral("http://127.0.0.1:%1").arg(port()); }
+void HttpServer::setFallback(const Handler& handler) { m_fallback = handler; }
 
 void HttpServer::on(const QByteArray& method, const QString& path, const Reply& reply)
 {
-    m_routes.insert(routeKey(method, path), [reply](const Request&) { return reply; });
+    on(method, path, [reply](const Request&) { return reply; });
 }
 
 void HttpServer::on(const QByteArray& method, const QString& path, const Handler& handler)
@@ -90,11 +63,6 @@ void HttpServer::on(const QByteArray& method, const QString& path, const Handler
 void HttpServer::onJson(const QByteArray& method, const QString& path, const QByteArray& body, int status)
 {
     on(method, path, json(body, status));
-}
-
-void HttpServer::setFallback(const Handler& handler)
-{
-    m_fallback = handler;
 }
 
 QList<HttpServer::Request> HttpServer::requests(const QByteArray& method, const QString& path) const
@@ -171,7 +139,8 @@ void HttpServer::readFrom(QTcpSocket* socket)
 
 void HttpServer::answer(QTcpSocket* socket, const Reply& reply)
 {
-    QByteArray head = "HTTP/1.1 " + QByteArray::number(reply.status) + ' ' + reasonPhrase(reply.status) + "\r\n";
+    // Clients read the status code; any reason phrase will do.
+    QByteArray head = "HTTP/1.1 " + QByteArray::number(reply.status) + " Status\r\n";
     head += "Content-Type: " + reply.contentType + "\r\n";
     head += "Content-Length: " + QByteArray::number(reply.body.size()) + "\r\n";
     for (const auto& header : reply.headers)
