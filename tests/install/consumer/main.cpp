@@ -1,0 +1,27 @@
+// A host that finds the installed library with find_package and uses its exported classes.
+#include "codecmanager.h"
+#include "memoryoutputinterface.h"
+#include "recordingsetup.h"
+#include "streamingmanager.h"
+#include "streamingsetup.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QTemporaryDir dir;
+    const ContentsSettings contents = ContentsSettings::underDirectory(dir.path());
+    CodecManager codecs(contents);
+    StreamingManager servers(contents, LicenseModel());
+    MemoryOutputInterface host;
+    RecordingSetup recording(nullptr, &host);
+    recording.reloadPresets();
+    StreamingSetup streaming(nullptr, &host);
+    streaming.reloadPresets();
+    // The singletons must be the same objects on both sides of the library boundary.
+    const bool shared = CodecManager::getInstancePtr() == &codecs && StreamingManager::getInstancePtr() == &servers;
+    return shared && !recording.isEncoding() && !streaming.isEncoding() ? 0 : 1;
+}
