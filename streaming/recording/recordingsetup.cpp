@@ -11,6 +11,7 @@
 #include "outputinterface.h"
 #include "quillonengine.h"
 #include "recordingpresetjson.h"
+#include "streamingformlists.h"
 
 #include <QFileDialog>
 #include <QJsonArray>
@@ -28,8 +29,6 @@ using SourceMap = QMap<int, int>;
 
 const char settingsKey[] = "RECORDING";
 const char fileTagKey[] = "ql.recording.filetag";
-
-enum SourceType { Program = 7, CleanProgram = 8, Preview = 10, BusA = 17, BusB = 18 };
 
 // What each container can hold: video codec bits and audio codec bits.
 struct ContainerRule {
@@ -61,16 +60,6 @@ const int defaultSplitSeconds = 43200;
 const char* const mediaBins[] = {QT_TRANSLATE_NOOP("RecordingSetup", "None"), QT_TRANSLATE_NOOP("RecordingSetup", "CLIP 1"),
                                  QT_TRANSLATE_NOOP("RecordingSetup", "CLIP 2")};
 
-void selectSource(QComboBox* list, const SourceMap& map)
-{
-    for (int i = 0; i < list->count(); ++i) {
-        if (list->itemData(i).value<SourceMap>() == map) {
-            list->setCurrentIndex(i);
-            return;
-        }
-    }
-}
-
 } // namespace
 
 RecordingSetup::RecordingSetup(QWidget* parent, OutputInterface* host)
@@ -101,30 +90,31 @@ void RecordingSetup::initializeUi()
     for (auto it = containers.cbegin(); it != containers.cend(); ++it)
         ui->containerList->addItem(it.value().toUpper(), it.key());
 
+    using Lists = StreamingFormLists;
     auto addSource = [](QComboBox* list, const QString& text, const SourceMap& map) {
         list->addItem(text, QVariant::fromValue(map));
     };
     for (QComboBox* list : {ui->videoSourceList, ui->audioSourceList}) {
-        addSource(list, tr("PGM"), {{Program, -1}});
-        addSource(list, tr("PGM(Clean)"), {{CleanProgram, -1}});
-        addSource(list, tr("PVW"), {{Preview, -1}});
+        addSource(list, tr("PGM"), {{Lists::Program, -1}});
+        addSource(list, tr("PGM(Clean)"), {{Lists::CleanProgram, -1}});
+        addSource(list, tr("PVW"), {{Lists::Preview, -1}});
     }
     if (license.audioBusEnabled()) {
         const ProjectPreset::Processing processing = QuillonEngine::projectPreset().processing();
         const bool a = processing.busAEnabled;
         const bool b = processing.busBEnabled;
         if (a)
-            addSource(ui->audioSourceList, tr("BUS A"), {{BusA, -1}});
+            addSource(ui->audioSourceList, tr("BUS A"), {{Lists::BusA, -1}});
         if (b)
-            addSource(ui->audioSourceList, tr("BUS B"), {{BusB, -1}});
+            addSource(ui->audioSourceList, tr("BUS B"), {{Lists::BusB, -1}});
         if (a && b)
-            addSource(ui->audioSourceList, tr("BUS A+B"), {{BusA, -1}, {BusB, -1}});
+            addSource(ui->audioSourceList, tr("BUS A+B"), {{Lists::BusA, -1}, {Lists::BusB, -1}});
         if (a)
-            addSource(ui->audioSourceList, tr("PGM+A"), {{Program, -1}, {BusA, -1}});
+            addSource(ui->audioSourceList, tr("PGM+A"), {{Lists::Program, -1}, {Lists::BusA, -1}});
         if (b)
-            addSource(ui->audioSourceList, tr("PGM+B"), {{Program, -1}, {BusB, -1}});
+            addSource(ui->audioSourceList, tr("PGM+B"), {{Lists::Program, -1}, {Lists::BusB, -1}});
         if (a && b)
-            addSource(ui->audioSourceList, tr("PGM+A+B"), {{Program, -1}, {BusA, -1}, {BusB, -1}});
+            addSource(ui->audioSourceList, tr("PGM+A+B"), {{Lists::Program, -1}, {Lists::BusA, -1}, {Lists::BusB, -1}});
     }
 
     for (const SplitInterval& interval : splitIntervals)
@@ -237,8 +227,8 @@ void RecordingSetup::applyPreset(const CodecPreset& preset, bool withMediaBin)
         ui->fileTag->setText(local.fileTag);
     ui->containerList->setCurrentText(preset.container().name.toUpper());
     ui->encoderList->selectPreset(preset);
-    selectSource(ui->videoSourceList, preset.videoSource());
-    selectSource(ui->audioSourceList, preset.audioSource());
+    StreamingFormLists::selectSource(ui->videoSourceList, preset.videoSource());
+    StreamingFormLists::selectSource(ui->audioSourceList, preset.audioSource());
     ui->splitFile->setChecked(local.splitTime >= 1);
     const int split = ui->splitTimeList->findData(local.splitTime);
     if (split >= 0)
@@ -302,7 +292,7 @@ CodecPreset RecordingSetup::presetFromControls(const QString& name) const
 
 void RecordingSetup::videoSourceChange()
 {
-    selectSource(ui->audioSourceList, ui->videoSourceList->currentData().value<SourceMap>());
+    StreamingFormLists::selectSource(ui->audioSourceList, ui->videoSourceList->currentData().value<SourceMap>());
 }
 
 void RecordingSetup::existingDirectory()
