@@ -1,60 +1,24 @@
 // Opening the streaming setup with its 8 services, 50 saved servers, 40 codec presets
 // and a full list of stored streams.
+#include "benchsupport.h"
 #include "channel.h"
-#include "codecmanager.h"
-#include "licensemodel.h"
 #include "memoryoutputinterface.h"
 #include "oauth.h"
-#include "streamingmanager.h"
 #include "streamingpresetjson.h"
 #include "streamingsetup.h"
 
-#include <QApplication>
-#include <QDir>
 #include <QJsonArray>
-#include <QStandardPaths>
-#include <QTemporaryDir>
-
-#include <benchmark/benchmark.h>
-
-#include <memory>
 
 namespace {
 
-const char* const codecs[] = {"H.264", "H.264 NVENC", "HEVC", "AV1"};
-const int heights[] = {360, 540, 720, 1080, 2160};
-const int bitRates[] = {2500, 6000};
-
 struct Fixture {
-    QTemporaryDir dir;
-    std::unique_ptr<CodecManager> codecs;
-    std::unique_ptr<StreamingManager> streaming;
+    BenchSupport::Stores stores;
     std::unique_ptr<MemoryOutputInterface> host;
 
     Fixture()
     {
-        const ContentsSettings settings = ContentsSettings::underDirectory(dir.path());
-        QDir().mkpath(settings.codecPresetPath());
-        QDir().mkpath(settings.serverPresetPath());
-        codecs = std::make_unique<CodecManager>(settings);
-        streaming = std::make_unique<StreamingManager>(settings, LicenseModel());
-
-        for (const char* codec : ::codecs)
-            for (int height : heights)
-                for (int bitRate : bitRates) {
-                    CodecPreset p;
-                    p.videoCodec().codec = QLatin1String(codec);
-                    p.videoCodec().width = height * 16 / 9;
-                    p.videoCodec().height = height;
-                    p.videoCodec().frameRate = 30;
-                    p.videoCodec().keyFrame = 2;
-                    p.videoCodec().bitRate = bitRate;
-                    p.audioCodec().codec = QStringLiteral("AAC");
-                    p.audioCodec().channels = 2;
-                    p.audioCodec().sampleRate = 48000;
-                    p.audioCodec().bitRate = 160;
-                    codecs->write(p);
-                }
+        BenchSupport::writeCodecGrid(*stores.codecs,
+                                     {{"H.264", "H.264 NVENC", "HEVC", "AV1"}, {360, 540, 720, 1080, 2160}, {2500, 6000}, 30, 160});
 
         for (int i = 0; i < 50; ++i) {
             Channel server;
@@ -67,7 +31,7 @@ struct Fixture {
             server.port = 9000 + i;
             server.latency = 200;
             server.keyLength = 16;
-            streaming->write(server, OAuth());
+            stores.streaming->write(server, OAuth());
         }
 
         QJsonArray rows;
@@ -97,17 +61,7 @@ struct Fixture {
 void BM_StreamingSetupOpen(benchmark::State& state)
 {
     Fixture fixture;
-    for (auto _ : state) {
-        auto setup = std::make_unique<StreamingSetup>(nullptr, fixture.host.get());
-        setup->reloadPresets();
-        setup->show();
-        QCoreApplication::processEvents(); // first layout and paint
-        benchmark::DoNotOptimize(setup->codecPresets().size());
-        state.PauseTiming();
-        setup.reset();
-        QCoreApplication::processEvents();
-        state.ResumeTiming();
-    }
+    BenchSupport::openSetup<StreamingSetup>(state, fixture.host.get());
 }
 BENCHMARK(BM_StreamingSetupOpen)->Unit(benchmark::kMillisecond)->Iterations(5)->Repetitions(9)->ReportAggregatesOnly(true);
 
@@ -115,13 +69,5 @@ BENCHMARK(BM_StreamingSetupOpen)->Unit(benchmark::kMillisecond)->Iterations(5)->
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QStandardPaths::setTestModeEnabled(true); // the services' stream keys are read from the settings
-    QApplication app(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("libstreaming-bench"));
-    QCoreApplication::setApplicationName(QStringLiteral("bench_streaming"));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return BenchSupport::run(argc, argv, "bench_streaming");
 }

@@ -1,5 +1,6 @@
 #include "recordingpresetjson.h"
 
+#include "codecjson.h"
 #include "codectables.h"
 #include "licensemodel.h"
 
@@ -36,28 +37,9 @@ int sourceTypeFromLegacy(int value)
 
 QJsonObject RecordingPresetJson::toJson(const CodecPreset& preset)
 {
-    const CodecModel::VideoCodec& v = preset.videoCodec();
-    const CodecModel::AudioCodec& a = preset.audioCodec();
     const CodecModel::Local& local = preset.local();
-    return QJsonObject{
-        {QStringLiteral("VideoCodec"), v.codec},
-        {QStringLiteral("VideoWidth"), v.width},
-        {QStringLiteral("VideoHeight"), v.height},
-        {QStringLiteral("VideoFrameRate"), v.frameRate},
-        {QStringLiteral("VideoField"), v.field},
-        {QStringLiteral("VideoKeyFrame"), v.keyFrame},
-        {QStringLiteral("VideoBitRate"), v.bitRate},
-        {QStringLiteral("VideoQuality"), v.quality},
-        {QStringLiteral("VideoPreset"), v.preset},
-        {QStringLiteral("VideoTune"), v.tune},
-        {QStringLiteral("VideoProfile"), v.profile},
-        {QStringLiteral("VideoBframes"), v.bframes},
-        {QStringLiteral("AudioEnabled"), a.enabled},
-        {QStringLiteral("AudioCodec"), a.codec},
-        {QStringLiteral("AudioChannels"), a.channels},
-        {QStringLiteral("AudioSampleRate"), a.sampleRate},
-        {QStringLiteral("AudioBitRate"), a.bitRate},
-        {QStringLiteral("AudioBitPerSamples"), a.bitPerSamples},
+    QJsonObject o{
+        {QStringLiteral("VideoQuality"), preset.videoCodec().quality},
         {QStringLiteral("PresetName"), preset.name()},
         {QStringLiteral("VideoSourceType"), firstKey(preset.videoSource())},
         {QStringLiteral("VideoSourceIndex"), firstValue(preset.videoSource())},
@@ -69,31 +51,15 @@ QJsonObject RecordingPresetJson::toJson(const CodecPreset& preset)
         {QStringLiteral("SplitTime"), local.splitTime},
         {QStringLiteral("MediaToBin"), local.mediaToBin},
     };
+    CodecJson::write(o, preset);
+    return o;
 }
 
 CodecPreset RecordingPresetJson::fromJson(const QJsonObject& o)
 {
     CodecPreset preset;
-    CodecModel::VideoCodec& v = preset.videoCodec();
-    v.codec = o.value(QLatin1String("VideoCodec")).toString();
-    v.width = o.value(QLatin1String("VideoWidth")).toInt();
-    v.height = o.value(QLatin1String("VideoHeight")).toInt();
-    v.frameRate = o.value(QLatin1String("VideoFrameRate")).toDouble();
-    v.field = o.value(QLatin1String("VideoField")).toInt();
-    v.keyFrame = o.value(QLatin1String("VideoKeyFrame")).toInt();
-    v.bitRate = o.value(QLatin1String("VideoBitRate")).toInt();
-    v.quality = o.value(QLatin1String("VideoQuality")).toInt();
-    v.preset = o.value(QLatin1String("VideoPreset")).toString();
-    v.tune = o.value(QLatin1String("VideoTune")).toString();
-    v.profile = o.value(QLatin1String("VideoProfile")).toInt();
-    v.bframes = o.value(QLatin1String("VideoBframes")).toInt();
-    CodecModel::AudioCodec& a = preset.audioCodec();
-    a.enabled = o.value(QLatin1String("AudioEnabled")).toBool();
-    a.codec = o.value(QLatin1String("AudioCodec")).toString();
-    a.channels = o.value(QLatin1String("AudioChannels")).toInt();
-    a.sampleRate = o.value(QLatin1String("AudioSampleRate")).toInt();
-    a.bitRate = o.value(QLatin1String("AudioBitRate")).toInt();
-    a.bitPerSamples = o.value(QLatin1String("AudioBitPerSamples")).toInt();
+    CodecJson::read(o, preset);
+    preset.videoCodec().quality = o.value(QLatin1String("VideoQuality")).toInt();
     preset.setName(o.value(QLatin1String("PresetName")).toString());
     preset.setId(QUuid::createUuid().toString());
 

@@ -3,15 +3,15 @@
 #include "ui_recordingsetup.h"
 
 #include "codectables.h"
-#include "encoderitem.h"
+#include "encoderrows.h"
 #include "filenamingdialog.h"
 #include "filetag.h"
 #include "licensemodel.h"
 #include "messagebox.h"
 #include "outputinterface.h"
-#include "qmessageboxex.h"
 #include "quillonengine.h"
 #include "recordingpresetjson.h"
+#include "streamingformlists.h"
 
 #include <QFileDialog>
 #include <QJsonArray>
@@ -29,8 +29,6 @@ using SourceMap = QMap<int, int>;
 
 const char settingsKey[] = "RECORDING";
 const char fileTagKey[] = "ql.recording.filetag";
-
-enum SourceType { Program = 7, CleanProgram = 8, Preview = 10, BusA = 17, BusB = 18 };
 
 // What each container can hold: video codec bits and audio codec bits.
 struct ContainerRule {
@@ -62,27 +60,13 @@ const int defaultSplitSeconds = 43200;
 const char* const mediaBins[] = {QT_TRANSLATE_NOOP("RecordingSetup", "None"), QT_TRANSLATE_NOOP("RecordingSetup", "CLIP 1"),
                                  QT_TRANSLATE_NOOP("RecordingSetup", "CLIP 2")};
 
-CodecPreset presetOf(const QListWidgetItem* item)
-{
-    return item ? item->data(Qt::UserRole).value<CodecPreset>() : CodecPreset();
-}
-
-void selectSource(QComboBox* list, const SourceMap& map)
-{
-    for (int i = 0; i < list->count(); ++i) {
-        if (list->itemData(i).value<SourceMap>() == map) {
-            list->setCurrentIndex(i);
-            return;
-        }
-    }
-}
-
 } // namespace
 
 RecordingSetup::RecordingSetup(QWidget* parent, OutputInterface* host)
     : QDialog(parent), ui(new Ui::RecordingSetup), host(host)
 {
     ui->setupUi(this);
+    m_rows = std::make_unique<EncoderRows>(ui->presetList, host, 1);
     if (QPushButton* close = ui->buttonBox->button(QDialogButtonBox::Close)) {
         close->setText(tr("Close"));
         close->setMinimumWidth(close->fontMetrics().horizontalAdvance(close->text()) + 20);
@@ -106,30 +90,31 @@ void RecordingSetup::initializeUi()
     for (auto it = containers.cbegin(); it != containers.cend(); ++it)
         ui->containerList->addItem(it.value().toUpper(), it.key());
 
+    using Lists = StreamingFormLists;
     auto addSource = [](QComboBox* list, const QString& text, const SourceMap& map) {
         list->addItem(text, QVariant::fromValue(map));
     };
     for (QComboBox* list : {ui->videoSourceList, ui->audioSourceList}) {
-        addSource(list, tr("PGM"), {{Program, -1}});
-        addSource(list, tr("PGM(Clean)"), {{CleanProgram, -1}});
-        addSource(list, tr("PVW"), {{Preview, -1}});
+        addSource(list, tr("PGM"), {{Lists::Program, -1}});
+        addSource(list, tr("PGM(Clean)"), {{Lists::CleanProgram, -1}});
+        addSource(list, tr("PVW"), {{Lists::Preview, -1}});
     }
     if (license.audioBusEnabled()) {
         const ProjectPreset::Processing processing = QuillonEngine::projectPreset().processing();
         const bool a = processing.busAEnabled;
         const bool b = processing.busBEnabled;
         if (a)
-            addSource(ui->audioSourceList, tr("BUS A"), {{BusA, -1}});
+            addSource(ui->audioSourceList, tr("BUS A"), {{Lists::BusA, -1}});
         if (b)
-            addSource(ui->audioSourceList, tr("BUS B"), {{BusB, -1}});
+            addSource(ui->audioSourceList, tr("BUS B"), {{Lists::BusB, -1}});
         if (a && b)
-            addSource(ui->audioSourceList, tr("BUS A+B"), {{BusA, -1}, {BusB, -1}});
+            addSource(ui->audioSourceList, tr("BUS A+B"), {{Lists::BusA, -1}, {Lists::BusB, -1}});
         if (a)
-            addSource(ui->audioSourceList, tr("PGM+A"), {{Program, -1}, {BusA, -1}});
+            addSource(ui->audioSourceList, tr("PGM+A"), {{Lists::Program, -1}, {Lists::BusA, -1}});
         if (b)
-            addSource(ui->audioSourceList, tr("PGM+B"), {{Program, -1}, {BusB, -1}});
+            addSource(ui->audioSourceList, tr("PGM+B"), {{Lists::Program, -1}, {Lists::BusB, -1}});
         if (a && b)
-            addSource(ui->audioSourceList, tr("PGM+A+B"), {{Program, -1}, {BusA, -1}, {BusB, -1}});
+            addSource(ui->audioSourceList, tr("PGM+A+B"), {{Lists::Program, -1}, {Lists::BusA, -1}, {Lists::BusB, -1}});
     }
 
     for (const SplitInterval& interval : splitIntervals)
@@ -185,30 +170,17 @@ void RecordingSetup::reloadPresets()
 
 QList<CodecPreset> RecordingSetup::codecPresets() const
 {
-    QList<CodecPreset> presets;
-    for (int row = 0; row < ui->presetList->count(); ++row)
-        presets.append(presetOf(ui->presetList->item(row)));
-    return presets;
+    return m_rows->presets();
 }
 
 bool RecordingSetup::encoding(bool on)
 {
-    if (on && ui->presetList->count() == 0)
-        return false;
-    for (int row = 0; row < ui->presetList->count(); ++row)
-        if (auto* item = qobject_cast<EncoderItem*>(ui->presetList->itemWidget(ui->presetList->item(row))))
-            item->setChecked(on);
-    return true;
+    return m_rows->setEncoding(on);
 }
 
 bool RecordingSetup::isEncoding() const
 {
-    for (int row = 0; row < ui->presetList->count(); ++row) {
-        const auto* item = qobject_cast<EncoderItem*>(ui->presetList->itemWidget(ui->presetList->item(row)));
-        if (item && item->isChecked())
-            return true;
-    }
-    return false;
+    return m_rows->isEncoding();
 }
 
 void RecordingSetup::showEvent(QShowEvent* event)
@@ -216,7 +188,7 @@ void RecordingSetup::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     ui->encoderList->refresh();
     if (QListWidgetItem* item = ui->presetList->currentItem())
-        applyPreset(presetOf(item), false);
+        applyPreset(EncoderRows::presetOf(item), false);
 }
 
 void RecordingSetup::hideEvent(QHideEvent* event)
@@ -237,7 +209,7 @@ void RecordingSetup::updatePreset()
             ui->removePreset->setEnabled(false);
             return;
         }
-        applyPreset(presetOf(item), true);
+        applyPreset(EncoderRows::presetOf(item), true);
         ui->removePreset->setEnabled(true);
     } else if (from == ui->removePreset) {
         removePresetClicked();
@@ -255,8 +227,8 @@ void RecordingSetup::applyPreset(const CodecPreset& preset, bool withMediaBin)
         ui->fileTag->setText(local.fileTag);
     ui->containerList->setCurrentText(preset.container().name.toUpper());
     ui->encoderList->selectPreset(preset);
-    selectSource(ui->videoSourceList, preset.videoSource());
-    selectSource(ui->audioSourceList, preset.audioSource());
+    StreamingFormLists::selectSource(ui->videoSourceList, preset.videoSource());
+    StreamingFormLists::selectSource(ui->audioSourceList, preset.audioSource());
     ui->splitFile->setChecked(local.splitTime >= 1);
     const int split = ui->splitTimeList->findData(local.splitTime);
     if (split >= 0)
@@ -267,21 +239,9 @@ void RecordingSetup::applyPreset(const CodecPreset& preset, bool withMediaBin)
 
 void RecordingSetup::removePresetClicked()
 {
-    QListWidgetItem* item = ui->presetList->currentItem();
-    if (!item)
-        return;
-    const auto* row = qobject_cast<EncoderItem*>(ui->presetList->itemWidget(item));
-    if (row && row->isChecked()) {
-        MessageBox::warning(this, tr("Preset"), tr("Please try again after recording is finished."));
-        return;
-    }
-    if (QMessageBoxEx::question(this, tr("Preset"), tr("Are you sure you want to remove this item?"),
-                                QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
-        != QMessageBox::Yes)
-        return;
-    ui->presetList->removeItemWidget(item);
-    delete item;
-    saveSetting();
+    if (m_rows->removeCurrent(this, tr("Preset"), tr("Please try again after recording is finished."),
+                              tr("Are you sure you want to remove this item?")))
+        saveSetting();
 }
 
 void RecordingSetup::addPresetClicked()
@@ -295,12 +255,12 @@ void RecordingSetup::addPresetClicked()
     QString name = base;
     int counter = 2;
     for (int row = 0; row < ui->presetList->count(); ++row)
-        if (presetOf(ui->presetList->item(row)).name() == name)
+        if (EncoderRows::presetOf(ui->presetList->item(row)).name() == name)
             name = QStringLiteral("%1 %2").arg(base).arg(counter++);
 
     CodecPreset preset = presetFromControls(name);
     preset.setId(QUuid::createUuid().toString());
-    addRow(preset);
+    m_rows->add(preset);
     ui->presetList->setCurrentRow(ui->presetList->count() - 1);
     saveSetting();
 }
@@ -330,19 +290,9 @@ CodecPreset RecordingSetup::presetFromControls(const QString& name) const
     return preset;
 }
 
-void RecordingSetup::addRow(const CodecPreset& preset)
-{
-    auto* item = new QListWidgetItem(ui->presetList);
-    item->setData(Qt::UserRole, QVariant::fromValue(preset));
-    auto* row = new EncoderItem(nullptr, host, 1);
-    row->setPreset(item, &preset);
-    item->setSizeHint(row->size());
-    ui->presetList->setItemWidget(item, row);
-}
-
 void RecordingSetup::videoSourceChange()
 {
-    selectSource(ui->audioSourceList, ui->videoSourceList->currentData().value<SourceMap>());
+    StreamingFormLists::selectSource(ui->audioSourceList, ui->videoSourceList->currentData().value<SourceMap>());
 }
 
 void RecordingSetup::existingDirectory()
@@ -379,7 +329,7 @@ void RecordingSetup::loadSetting()
     for (int i = 0; i < array.size() && i < limit; ++i) {
         if (!array.at(i).isObject())
             qCWarning(lcRecording) << settingsKey << "element" << i << "is not an object; it reads as an empty preset";
-        addRow(RecordingPresetJson::fromJson(array.at(i).toObject()));
+        m_rows->add(RecordingPresetJson::fromJson(array.at(i).toObject()));
     }
     if (ui->presetList->count() > 0)
         ui->presetList->setCurrentRow(0);
@@ -390,8 +340,8 @@ void RecordingSetup::saveSetting()
     if (!host)
         return;
     QJsonArray array;
-    for (int row = 0; row < ui->presetList->count(); ++row)
-        array.append(RecordingPresetJson::toJson(presetOf(ui->presetList->item(row))));
+    for (const CodecPreset& preset : m_rows->presets())
+        array.append(RecordingPresetJson::toJson(preset));
     host->setSettings(QLatin1String(settingsKey), array);
 }
 

@@ -6,8 +6,10 @@
 #include <QDialog>
 #include <QList>
 
+#include <memory>
+
+class EncoderRows;
 class OutputInterface;
-class QListWidgetItem;
 
 namespace Ui {
 class RecordingSetup;
@@ -46,7 +48,6 @@ private:
     void saveSetting();
     void removeSetting();
 
-    void addRow(const CodecPreset& preset);
     void addPresetClicked();
     void removePresetClicked();
     void applyPreset(const CodecPreset& preset, bool withMediaBin);
@@ -55,4 +56,5 @@ private:
 
     Ui::RecordingSetup* ui;
     OutputInterface* host;
+    std::unique_ptr<EncoderRows> m_rows;
 };

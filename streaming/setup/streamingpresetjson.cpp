@@ -1,5 +1,6 @@
 #include "streamingpresetjson.h"
 
+#include "codecjson.h"
 #include "servicetables.h"
 
 #include <QJsonArray>
@@ -50,27 +51,8 @@ QMap<int, int> mapOf(const QJsonObject& object, QLatin1String typeKey, QLatin1St
 
 QJsonObject StreamingPresetJson::toJson(const CodecPreset& preset)
 {
-    const CodecModel::VideoCodec& v = preset.videoCodec();
-    const CodecModel::AudioCodec& a = preset.audioCodec();
     const CodecModel::Streaming& s = preset.streaming();
-    return QJsonObject{
-        {QStringLiteral("VideoCodec"), v.codec},
-        {QStringLiteral("VideoWidth"), v.width},
-        {QStringLiteral("VideoHeight"), v.height},
-        {QStringLiteral("VideoFrameRate"), v.frameRate},
-        {QStringLiteral("VideoField"), v.field},
-        {QStringLiteral("VideoBitRate"), v.bitRate},
-        {QStringLiteral("VideoKeyFrame"), v.keyFrame},
-        {QStringLiteral("VideoPreset"), v.preset},
-        {QStringLiteral("VideoTune"), v.tune},
-        {QStringLiteral("VideoProfile"), v.profile},
-        {QStringLiteral("VideoBframes"), v.bframes},
-        {QStringLiteral("AudioEnabled"), a.enabled},
-        {QStringLiteral("AudioCodec"), a.codec},
-        {QStringLiteral("AudioChannels"), a.channels},
-        {QStringLiteral("AudioSampleRate"), a.sampleRate},
-        {QStringLiteral("AudioBitRate"), a.bitRate},
-        {QStringLiteral("AudioBitPerSamples"), a.bitPerSamples},
+    QJsonObject o{
         {videoTypeKey, keysOf(preset.videoSource())},
         {videoIndexKey, valuesOf(preset.videoSource())},
         {audioTypeKey, keysOf(preset.audioSource())},
@@ -93,6 +75,8 @@ QJsonObject StreamingPresetJson::toJson(const CodecPreset& preset)
         {QStringLiteral("StreamID"), s.streamId},
         {QStringLiteral("Filter"), s.filter},
     };
+    CodecJson::write(o, preset);
+    return o;
 }
 
 CodecPreset StreamingPresetJson::fromJson(const QJsonObject& o)
@@ -101,25 +85,7 @@ CodecPreset StreamingPresetJson::fromJson(const QJsonObject& o)
     const auto number = [&o](const char* key) { return o.value(QLatin1String(key)).toInt(); };
 
     CodecPreset preset;
-    CodecModel::VideoCodec& v = preset.videoCodec();
-    v.codec = text("VideoCodec");
-    v.width = number("VideoWidth");
-    v.height = number("VideoHeight");
-    v.frameRate = o.value(QLatin1String("VideoFrameRate")).toDouble();
-    v.field = number("VideoField");
-    v.bitRate = number("VideoBitRate");
-    v.keyFrame = number("VideoKeyFrame");
-    v.preset = text("VideoPreset");
-    v.tune = text("VideoTune");
-    v.profile = number("VideoProfile");
-    v.bframes = number("VideoBframes");
-    CodecModel::AudioCodec& a = preset.audioCodec();
-    a.enabled = o.value(QLatin1String("AudioEnabled")).toBool();
-    a.codec = text("AudioCodec");
-    a.channels = number("AudioChannels");
-    a.sampleRate = number("AudioSampleRate");
-    a.bitRate = number("AudioBitRate");
-    a.bitPerSamples = number("AudioBitPerSamples");
+    CodecJson::read(o, preset);
     preset.videoSource() = mapOf(o, videoTypeKey, videoIndexKey);
     preset.audioSource() = mapOf(o, audioTypeKey, audioIndexKey);
     preset.setName(text("PresetName"));

@@ -10,14 +10,13 @@
 #include "custom.h"
 #include "customservers.h"
 #include "duplicatestreamcheck.h"
-#include "encoderitem.h"
+#include "encoderrows.h"
 #include "filenamingdialog.h"
 #include "filetag.h"
 #include "hitbox.h"
 #include "messagebox.h"
 #include "outputinterface.h"
 #include "panelupdater.h"
-#include "qmessageboxex.h"
 #include "quillonengine.h"
 #include "servicetables.h"
 #include "simpleprovider.h"
@@ -72,11 +71,6 @@ enum PanelId : int {
 const QColor busyColor(237, 110, 0);
 constexpr int bandwidthLinger = 1500;
 
-CodecPreset presetOf(const QListWidgetItem* item)
-{
-    return item ? item->data(Qt::UserRole).value<CodecPreset>() : CodecPreset();
-}
-
 // Services that log in with a user name and password rather than a web page.
 bool usesPasswordLogin(const Provider* provider)
 {
@@ -109,6 +103,9 @@ StreamingSetup::StreamingSetup(QWidget* parent, OutputInterface* host)
     : QDialog(parent), ui(new Ui::StreamingSetup), host(host)
 {
     ui->setupUi(this);
+    // The row's button asks the engine to start or stop the stream, as recording rows do, and
+    // then tells the host (kind 0): the host expects the library to drive the encoder.
+    m_rows = std::make_unique<EncoderRows>(ui->encoderList, host, 0);
     ui->tabWidget->removeTab(ui->tabWidget->indexOf(ui->tabPreset));
     if (QPushButton* close = ui->buttonBox->button(QDialogButtonBox::Close)) {
         close->setText(tr("Close"));
@@ -504,30 +501,17 @@ void StreamingSetup::webAuthorizeUrlChange(const QUrl& url)
 
 QList<CodecPreset> StreamingSetup::codecPresets() const
 {
-    QList<CodecPreset> presets;
-    for (int row = 0; row < ui->encoderList->count(); ++row)
-        presets.append(presetOf(ui->encoderList->item(row)));
-    return presets;
+    return m_rows->presets();
 }
 
 bool StreamingSetup::encoding(bool on)
 {
-    if (on && ui->encoderList->count() == 0)
-        return false;
-    for (int row = 0; row < ui->encoderList->count(); ++row)
-        if (auto* item = qobject_cast<EncoderItem*>(ui->encoderList->itemWidget(ui->encoderList->item(row))))
-            item->setChecked(on);
-    return true;
+    return m_rows->setEncoding(on);
 }
 
 bool StreamingSetup::isEncoding() const
 {
-    for (int row = 0; row < ui->encoderList->count(); ++row) {
-        const auto* item = qobject_cast<EncoderItem*>(ui->encoderList->itemWidget(ui->encoderList->item(row)));
-        if (item && item->isChecked())
-            return true;
-    }
-    return false;
+    return m_rows->isEncoding();
 }
 
 void StreamingSetup::reloadPresets()
@@ -542,7 +526,7 @@ void StreamingSetup::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
     if (QListWidgetItem* item = ui->encoderList->currentItem()) {
-        applyRow(presetOf(item));
+        applyRow(EncoderRows::presetOf(item));
     } else {
         if (!lastFolder.isEmpty())
             ui->folder->setText(lastFolder);
@@ -583,7 +567,7 @@ void StreamingSetup::updatePreset()
         QListWidgetItem* item = ui->encoderList->currentItem();
         ui->removePreset->setEnabled(item != nullptr);
         if (item)
-            applyRow(presetOf(item));
+            applyRow(EncoderRows::presetOf(item));
     } else if (from == ui->codecList) {
         ui->addPreset->setEnabled(ui->codecList->count() > 0);
     }
@@ -616,21 +600,9 @@ void StreamingSetup::addPresetClicked()
 
 void StreamingSetup::removePresetClicked()
 {
-    QListWidgetItem* item = ui->encoderList->currentItem();
-    if (!item)
-        return;
-    const auto* row = qobject_cast<EncoderItem*>(ui->encoderList->itemWidget(item));
-    if (row && row->isChecked()) {
-        MessageBox::warning(this, tr("Preset"), tr("Please try again after streaming is finished."));
-        return;
-    }
-    if (QMessageBoxEx::question(this, tr("Preset"), tr("Are you sure you want to remove this item?"),
-                                QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
-        != QMessageBox::Yes)
-        return;
-    ui->encoderList->removeItemWidget(item);
-    delete item;
-    saveSetting();
+    if (m_rows->removeCurrent(this, tr("Preset"), tr("Please try again after streaming is finished."),
+                              tr("Are you sure you want to remove this item?")))
+        saveSetting();
 }
 
 QString StreamingSetup::nameOrUntitled() const
@@ -659,15 +631,8 @@ CodecPreset StreamingSetup::presetFromControls(const QString& name) const
 
 void StreamingSetup::addRow(const CodecPreset& preset)
 {
-    auto* item = new QListWidgetItem(ui->encoderList);
-    item->setData(Qt::UserRole, QVariant::fromValue(preset));
+    QListWidgetItem* item = m_rows->add(preset);
     item->setData(Qt::UserRole + 1, preset.streaming().provider);
-    // The row's button asks the engine to start or stop the stream, as recording rows do, and
-    // then tells the host (kind 0): the host expects the library to drive the encoder.
-    auto* row = new EncoderItem(nullptr, host, 0);
-    row->setPreset(item, &preset);
-    item->setSizeHint(row->size());
-    ui->encoderList->setItemWidget(item, row);
 }
 
 void StreamingSetup::videoSourceChange()

@@ -15,6 +15,7 @@
 
 class BandwidthWidget;
 class CustomServers;
+class EncoderRows;
 class OutputInterface;
 class PanelUpdater;
 class Provider;
@@ -108,4 +109,5 @@ private:
     QHash<QString, QString> m_serviceIcons; // service name -> list icon
     std::unique_ptr<PanelUpdater> m_panel;
     std::unique_ptr<CustomServers> m_customServers;
+    std::unique_ptr<EncoderRows> m_rows;
 };

@@ -60,7 +60,7 @@ QJsonObject readJson(const QString& path)
 
 } // namespace
 
-class TestBaseWidget : public QObject
+class TestBaseWidget : public QObject, private StreamingSetupFixture
 {
     Q_OBJECT
 private slots:
@@ -87,59 +87,29 @@ private slots:
     void bestServerIsSelected();
 
 private:
-    StreamingSetup& open();
     void addServer(const ServerEntry& entry);
-
-    HttpServer m_service;
-    std::unique_ptr<TempStores> m_stores;
-    std::unique_ptr<MemoryOutputInterface> m_host;
-    std::unique_ptr<StreamingSetup> m_dialog;
-    std::unique_ptr<StreamingSetupForm> m_form;
 };
 
 void TestBaseWidget::initTestCase()
 {
-    QCoreApplication::setOrganizationName(QStringLiteral("libstreaming-tests"));
-    QCoreApplication::setApplicationName(QStringLiteral("tst_basewidget"));
-    QStandardPaths::setTestModeEnabled(true);
-    MessageBox::setScripted(true);
-    ServiceEnvironment::pointAt(m_service.baseUrl());
+    startFixture("tst_basewidget");
 }
 
 void TestBaseWidget::init()
 {
-    QSettings().clear();
-    MessageBox::clear();
-    m_stores = std::make_unique<TempStores>();
-    QVERIFY(m_stores->codecManager().write(streamingCodecPreset()));
-    m_host = std::make_unique<MemoryOutputInterface>();
+    QVERIFY(resetFixture());
 }
 
 void TestBaseWidget::cleanup()
 {
-    m_form.reset();
-    m_dialog.reset();
-    m_host.reset();
-    m_stores.reset();
-    m_service.clearRequests();
+    const QString shown = dropFixture();
     qunsetenv("QUILLON_YOUTUBE_SERVERS");
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        QVERIFY2(!widget->isVisible(), qPrintable(widget->objectName()));
+    QVERIFY2(shown.isEmpty(), qPrintable(shown));
 }
 
 void TestBaseWidget::cleanupTestCase()
 {
-    ServiceEnvironment::reset();
-    QSettings().clear();
-}
-
-StreamingSetup& TestBaseWidget::open()
-{
-    m_dialog = std::make_unique<StreamingSetup>(nullptr, m_host.get());
-    m_dialog->reloadPresets();
-    m_dialog->show();
-    m_form = std::make_unique<StreamingSetupForm>(*m_dialog);
-    return *m_dialog;
+    stopFixture();
 }
 
 void TestBaseWidget::addServer(const ServerEntry& entry)

@@ -68,7 +68,7 @@ QJsonObject storedRow()
 
 } // namespace
 
-class TestStreamingSetup : public QObject
+class TestStreamingSetup : public QObject, private StreamingSetupFixture
 {
     Q_OBJECT
 private slots:
@@ -98,60 +98,29 @@ private slots:
     void webAuthorizePage();
 
 private:
-    StreamingSetup& open();
     void addCustomRow(const QString& server);
-
-    HttpServer m_service;
-    std::unique_ptr<TempStores> m_stores;
-    std::unique_ptr<MemoryOutputInterface> m_host;
-    std::unique_ptr<StreamingSetup> m_dialog;
-    std::unique_ptr<StreamingSetupForm> m_form;
 };
 
 void TestStreamingSetup::initTestCase()
 {
-    QCoreApplication::setOrganizationName(QStringLiteral("libstreaming-tests"));
-    QCoreApplication::setApplicationName(QStringLiteral("tst_streamingsetup"));
-    QStandardPaths::setTestModeEnabled(true);
-    MessageBox::setScripted(true);
-    ServiceEnvironment::pointAt(m_service.baseUrl());
+    startFixture("tst_streamingsetup");
 }
 
 void TestStreamingSetup::init()
 {
-    QSettings().clear();
-    MessageBox::clear();
     QuillonEngine::clearEncodingCalls();
-    m_stores = std::make_unique<TempStores>();
-    QVERIFY(m_stores->isValid());
-    QVERIFY(m_stores->codecManager().write(streamingCodecPreset()));
-    m_host = std::make_unique<MemoryOutputInterface>();
+    QVERIFY(resetFixture());
 }
 
 void TestStreamingSetup::cleanup()
 {
-    m_form.reset();
-    m_dialog.reset();
-    m_host.reset();
-    m_stores.reset();
-    m_service.clearRequests();
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        QVERIFY2(!widget->isVisible(), qPrintable(widget->objectName()));
+    const QString shown = dropFixture();
+    QVERIFY2(shown.isEmpty(), qPrintable(shown));
 }
 
 void TestStreamingSetup::cleanupTestCase()
 {
-    ServiceEnvironment::reset();
-    QSettings().clear();
-}
-
-StreamingSetup& TestStreamingSetup::open()
-{
-    m_dialog = std::make_unique<StreamingSetup>(nullptr, m_host.get());
-    m_dialog->reloadPresets();
-    m_dialog->show();
-    m_form = std::make_unique<StreamingSetupForm>(*m_dialog);
-    return *m_dialog;
+    stopFixture();
 }
 
 void TestStreamingSetup::addCustomRow(const QString& serverTitle)

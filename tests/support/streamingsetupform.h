@@ -2,15 +2,24 @@
 
 #include "codecmanager.h"
 #include "codecpreset.h"
+#include "httpserver.h"
 #include "memoryoutputinterface.h"
+#include "messagebox.h"
+#include "serviceenvironment.h"
 #include "streamingsetup.h"
+#include "tempstores.h"
+#include "testkit.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QJsonArray>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QSettings>
 #include <QTest>
+
+#include <memory>
 
 // The streaming dialog as an operator sees it: controls found by object name,
 // services picked from the list, text typed, buttons clicked.
@@ -99,3 +108,61 @@ inline QJsonArray storedStreams(MemoryOutputInterface& host)
 {
     return host.settings().value(QStringLiteral("STREAMING")).toArray();
 }
+
+// What a streaming dialog test keeps around the dialog: the services pointed at a local
+// server, fresh stores holding streamingCodecPreset(), a host in memory. A test class
+// derives from it (after QObject) and calls the steps from its own slots.
+class StreamingSetupFixture
+{
+protected:
+    void startFixture(const char* testName)
+    {
+        TestKit::initDialogTest(testName);
+        ServiceEnvironment::pointAt(m_service.baseUrl());
+    }
+
+    // False when the stores could not be made.
+    bool resetFixture()
+    {
+        QSettings().clear();
+        MessageBox::clear();
+        m_stores = std::make_unique<TempStores>();
+        m_host = std::make_unique<MemoryOutputInterface>();
+        return m_stores->isValid() && m_stores->codecManager().write(streamingCodecPreset());
+    }
+
+    // Drops the dialog and the stores; returns the first window still shown, empty when none.
+    QString dropFixture()
+    {
+        m_form.reset();
+        m_dialog.reset();
+        m_host.reset();
+        m_stores.reset();
+        m_service.clearRequests();
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (widget->isVisible())
+                return widget->objectName().isEmpty() ? QStringLiteral("(unnamed)") : widget->objectName();
+        return QString();
+    }
+
+    void stopFixture()
+    {
+        ServiceEnvironment::reset();
+        QSettings().clear();
+    }
+
+    StreamingSetup& open()
+    {
+        m_dialog = std::make_unique<StreamingSetup>(nullptr, m_host.get());
+        m_dialog->reloadPresets();
+        m_dialog->show();
+        m_form = std::make_unique<StreamingSetupForm>(*m_dialog);
+        return *m_dialog;
+    }
+
+    HttpServer m_service;
+    std::unique_ptr<TempStores> m_stores;
+    std::unique_ptr<MemoryOutputInterface> m_host;
+    std::unique_ptr<StreamingSetup> m_dialog;
+    std::unique_ptr<StreamingSetupForm> m_form;
+};
