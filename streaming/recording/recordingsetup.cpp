@@ -9,6 +9,7 @@
 #include "licensemodel.h"
 #include "messagebox.h"
 #include "outputinterface.h"
+#include "presetcontrols.h"
 #include "quillonengine.h"
 #include "recordingpresetjson.h"
 #include "streamingformlists.h"
@@ -273,19 +274,11 @@ QString RecordingSetup::nameOrUntitled() const
 
 CodecPreset RecordingSetup::presetFromControls(const QString& name) const
 {
-    CodecPreset preset = ui->encoderList->currentPreset();
-    preset.setName(name);
-    preset.videoSource() = ui->videoSourceList->currentData().value<SourceMap>();
-    preset.audioSource() = ui->audioSourceList->currentData().value<SourceMap>();
-    preset.container().name = ui->containerList->currentText().toLower();
-    preset.container().id = ui->containerList->currentData().toInt();
-    CodecModel::Local& local = preset.local();
-    local.enabled = true;
-    local.path = ui->folder->text();
-    local.fileTag = ui->fileTag->text();
-    if (ui->splitFile->isChecked())
-        local.splitTime = ui->splitTimeList->currentData().toInt();
-    local.mediaToBin = ui->mediaToBin->currentData().toString();
+    const PresetControls controls{ui->encoderList, ui->videoSourceList, ui->audioSourceList, ui->containerList,
+                                  ui->folder,      ui->fileTag,         ui->splitFile,       ui->splitTimeList};
+    CodecPreset preset = controls.preset(name);
+    preset.local().enabled = true;
+    preset.local().mediaToBin = ui->mediaToBin->currentData().toString();
     preset.streaming().enabled = false;
     return preset;
 }

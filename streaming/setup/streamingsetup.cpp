@@ -17,6 +17,7 @@
 #include "messagebox.h"
 #include "outputinterface.h"
 #include "panelupdater.h"
+#include "presetcontrols.h"
 #include "quillonengine.h"
 #include "servicetables.h"
 #include "simpleprovider.h"
@@ -613,18 +614,10 @@ QString StreamingSetup::nameOrUntitled() const
 
 CodecPreset StreamingSetup::presetFromControls(const QString& name) const
 {
-    CodecPreset preset = ui->codecList->currentPreset();
-    preset.setName(name);
-    preset.videoSource() = ui->videoSourceList->currentData().value<SourceMap>();
-    preset.audioSource() = ui->audioSourceList->currentData().value<SourceMap>();
-    preset.container().name = ui->containerList->currentText().toLower();
-    preset.container().id = ui->containerList->currentData().toInt();
-    CodecModel::Local& local = preset.local();
-    local.enabled = ui->saveGroup->isChecked();
-    local.path = ui->folder->text();
-    local.fileTag = ui->fileTag->text();
-    if (ui->splitFile->isChecked())
-        local.splitTime = ui->splitTimeList->currentData().toInt();
+    const PresetControls controls{ui->codecList, ui->videoSourceList, ui->audioSourceList, ui->containerList,
+                                  ui->folder,    ui->fileTag,         ui->splitFile,       ui->splitTimeList};
+    CodecPreset preset = controls.preset(name);
+    preset.local().enabled = ui->saveGroup->isChecked();
     preset.streaming().enabled = true;
     return preset;
 }
