@@ -1,7 +1,7 @@
 // Opening the recording setup with a full store: 100 stored rows, 200 codec presets.
 #include "benchsupport.h"
-#include "memoryoutputinterface.h"
-#include "recordingsetup.h"
+#include "interface/memoryoutputinterface.h"
+#include "recording/recordingsetup.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

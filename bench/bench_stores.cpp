@@ -1,6 +1,6 @@
 // Loading the preset stores against the floor of reading and parsing the same files.
-#include "codecmanager.h"
-#include "streamingmanager.h"
+#include "stores/codecmanager.h"
+#include "stores/streamingmanager.h"
 
 #include <QDir>
 #include <QDirIterator>

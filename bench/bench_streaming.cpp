@@ -1,11 +1,11 @@
 // Opening the streaming setup with its 8 services, 50 saved servers, 40 codec presets
 // and a full list of stored streams.
 #include "benchsupport.h"
-#include "channel.h"
-#include "memoryoutputinterface.h"
-#include "oauth.h"
-#include "streamingpresetjson.h"
-#include "streamingsetup.h"
+#include "interface/memoryoutputinterface.h"
+#include "setup/streamingpresetjson.h"
+#include "setup/streamingsetup.h"
+#include "stores/channel.h"
+#include "stores/oauth.h"
 
 #include <QJsonArray>
 

@@ -1,12 +1,12 @@
 #pragma once
 // What the setup-dialog benchmarks share: stores in a temporary directory, a grid of codec
 // presets written to them, the open-and-paint loop and main().
-#include "codecmanager.h"
-#include "codecpreset.h"
-#include "contentssettings.h"
-#include "licensemodel.h"
-#include "outputinterface.h"
-#include "streamingmanager.h"
+#include "interface/outputinterface.h"
+#include "records/codecpreset.h"
+#include "records/contentssettings.h"
+#include "records/licensemodel.h"
+#include "stores/codecmanager.h"
+#include "stores/streamingmanager.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "activitylog.h"
+#include "quillon/activitylog.h"
 
 #include <QLoggingCategory>
 #include <QTime>

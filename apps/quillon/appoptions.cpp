@@ -1,4 +1,4 @@
-#include "appoptions.h"
+#include "quillon/appoptions.h"
 
 #include <QCommandLineParser>
 #include <QDir>

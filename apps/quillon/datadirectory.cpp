@@ -1,4 +1,4 @@
-#include "datadirectory.h"
+#include "quillon/datadirectory.h"
 
 #include <QDir>
 #include <QFile>

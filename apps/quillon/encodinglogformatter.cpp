@@ -1,8 +1,8 @@
-#include "encodinglogformatter.h"
+#include "quillon/encodinglogformatter.h"
 
-#include "codecmanager.h"
-#include "codecpreset.h"
-#include "filetag.h"
+#include "records/codecpreset.h"
+#include "stores/codecmanager.h"
+#include "stores/filetag.h"
 
 #include <QUrl>
 

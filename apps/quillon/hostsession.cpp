@@ -1,14 +1,14 @@
-#include "hostsession.h"
+#include "quillon/hostsession.h"
 
-#include "activitylog.h"
-#include "capturemanager.h"
-#include "codecmanager.h"
-#include "contentssettings.h"
-#include "displaymode.h"
-#include "fileoutputinterface.h"
-#include "presetseeder.h"
-#include "quillonengine.h"
-#include "streamingmanager.h"
+#include "capture/capturemanager.h"
+#include "capture/displaymode.h"
+#include "engine/quillonengine.h"
+#include "interface/fileoutputinterface.h"
+#include "quillon/activitylog.h"
+#include "quillon/presetseeder.h"
+#include "records/contentssettings.h"
+#include "stores/codecmanager.h"
+#include "stores/streamingmanager.h"
 
 #include <QDir>
 #include <QFileInfo>

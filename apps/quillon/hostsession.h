@@ -1,9 +1,9 @@
 #pragma once
 
-#include "codecpreset.h"
-#include "datadirectory.h"
-#include "licensemodel.h"
-#include "projectpreset.h"
+#include "quillon/datadirectory.h"
+#include "records/codecpreset.h"
+#include "records/licensemodel.h"
+#include "records/projectpreset.h"
 
 #include <QObject>
 #include <QString>

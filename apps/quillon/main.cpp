@@ -1,8 +1,8 @@
-#include "activitylog.h"
-#include "appoptions.h"
-#include "hostsession.h"
-#include "mainwindow.h"
-#include "screenshotrenderer.h"
+#include "quillon/activitylog.h"
+#include "quillon/appoptions.h"
+#include "quillon/hostsession.h"
+#include "quillon/mainwindow.h"
+#include "quillon/screenshotrenderer.h"
 
 #include <QApplication>
 #include <QDir>

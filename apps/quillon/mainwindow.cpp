@@ -1,14 +1,14 @@
-#include "mainwindow.h"
+#include "quillon/mainwindow.h"
 #include "ui_mainwindow.h"
 
-#include "codecmanager.h"
-#include "displaymode.h"
-#include "encodinglogformatter.h"
-#include "fileoutputinterface.h"
-#include "hostsession.h"
-#include "outputdialogregistry.h"
-#include "quillonengine.h"
-#include "streamingmanager.h"
+#include "capture/displaymode.h"
+#include "engine/quillonengine.h"
+#include "interface/fileoutputinterface.h"
+#include "quillon/encodinglogformatter.h"
+#include "quillon/hostsession.h"
+#include "quillon/outputdialogregistry.h"
+#include "stores/codecmanager.h"
+#include "stores/streamingmanager.h"
 
 #include <QAction>
 #include <QDialog>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "activitylog.h"
+#include "quillon/activitylog.h"
 
 #include <QHash>
 #include <QMainWindow>

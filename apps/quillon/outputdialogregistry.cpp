@@ -1,12 +1,12 @@
-#include "outputdialogregistry.h"
+#include "quillon/outputdialogregistry.h"
 
-#include "activitylog.h"
-#include "filenamingdialog.h"
-#include "filetag.h"
-#include "fileoutputinterface.h"
-#include "hostsession.h"
-#include "recordingsetup.h"
-#include "streamingsetup.h"
+#include "interface/fileoutputinterface.h"
+#include "quillon/activitylog.h"
+#include "quillon/hostsession.h"
+#include "recording/recordingsetup.h"
+#include "setup/streamingsetup.h"
+#include "stores/filenamingdialog.h"
+#include "stores/filetag.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
-#include "presetseeder.h"
+#include "quillon/presetseeder.h"
 
-#include "codecmanager.h"
-#include "codecpreset.h"
+#include "records/codecpreset.h"
+#include "stores/codecmanager.h"
 
 #include <QDateTime>
 #include <QDir>

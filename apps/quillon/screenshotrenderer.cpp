@@ -1,8 +1,8 @@
-#include "screenshotrenderer.h"
+#include "quillon/screenshotrenderer.h"
 
-#include "hostsession.h"
-#include "mainwindow.h"
-#include "outputdialogregistry.h"
+#include "quillon/hostsession.h"
+#include "quillon/mainwindow.h"
+#include "quillon/outputdialogregistry.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,4 +1,4 @@
-#include "browsermanager.h"
+#include "browser/browsermanager.h"
 
 BrowserManager::BrowserManager(ICefCaptureCallback* callback)
     : m_callback(callback)

@@ -1,6 +1,6 @@
-#include "cefmanager.h"
+#include "browser/cefmanager.h"
 
-#include "noenginecefmanager.h"
+#include "browser/noenginecefmanager.h"
 
 namespace {
 CefManager* installed = nullptr;

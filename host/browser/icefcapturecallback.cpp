@@ -1,3 +1,3 @@
-#include "icefcapturecallback.h"
+#include "browser/icefcapturecallback.h"
 
 ICefCaptureCallback::~ICefCaptureCallback() = default;

@@ -1,4 +1,4 @@
-#include "noenginecefmanager.h"
+#include "browser/noenginecefmanager.h"
 
 #include <QLoggingCategory>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cefmanager.h"
+#include "browser/cefmanager.h"
 
 // The engine used when the host has none: it creates no browser, so every
 // forwarding call finds nothing to act on.

@@ -1,7 +1,7 @@
-#include "capturemanager.h"
+#include "capture/capturemanager.h"
 
-#include "displaymode.h"
-#include "ndioutput.h"
+#include "capture/displaymode.h"
+#include "capture/ndioutput.h"
 
 #include <QGuiApplication>
 #include <QLoggingCategory>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "capture/videodevice.h"
 #include "host_export.h"
-#include "videodevice.h"
 
 #include <QList>
 #include <QObject>

@@ -1,4 +1,4 @@
-#include "displaymode.h"
+#include "capture/displaymode.h"
 
 #include <QRegularExpression>
 #include <QtMath>

@@ -1,4 +1,4 @@
-#include "ndioutput.h"
+#include "capture/ndioutput.h"
 
 QStringList NdiOutput::supportFormats()
 {

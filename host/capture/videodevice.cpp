@@ -1,4 +1,4 @@
-#include "videodevice.h"
+#include "capture/videodevice.h"
 
 VideoDevice::VideoDevice(const QString& name, Kind kind, const QStringList& displayModes)
     : m_name(name), m_kind(kind), m_displayModes(displayModes)

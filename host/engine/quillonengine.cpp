@@ -1,4 +1,4 @@
-#include "quillonengine.h"
+#include "engine/quillonengine.h"
 
 #include <QLoggingCategory>
 

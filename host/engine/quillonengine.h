@@ -1,8 +1,8 @@
 #pragma once
 
-#include "codecpreset.h"
 #include "host_export.h"
-#include "projectpreset.h"
+#include "records/codecpreset.h"
+#include "records/projectpreset.h"
 
 #include <QList>
 #include <QObject>

@@ -1,4 +1,4 @@
-#include "codecpreset.h"
+#include "records/codecpreset.h"
 
 #include <tuple>
 

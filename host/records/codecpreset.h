@@ -1,7 +1,7 @@
 #pragma once
 
-#include "codecmodel.h"
 #include "host_export.h"
+#include "records/codecmodel.h"
 
 #include <QMap>
 #include <QMetaType>

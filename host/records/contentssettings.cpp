@@ -1,4 +1,4 @@
-#include "contentssettings.h"
+#include "records/contentssettings.h"
 
 #include <QDir>
 

@@ -1,4 +1,4 @@
-#include "licensemodel.h"
+#include "records/licensemodel.h"
 
 #include <QJsonArray>
 

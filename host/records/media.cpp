@@ -1,3 +1,3 @@
-#include "media.h"
+#include "records/media.h"
 
 Media::~Media() = default;

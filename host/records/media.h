@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host_export.h"
-#include "mediapreset.h"
+#include "records/mediapreset.h"
 
 // A live source of the switcher.
 class HOST_EXPORT Media

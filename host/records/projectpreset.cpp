@@ -1,4 +1,4 @@
-#include "projectpreset.h"
+#include "records/projectpreset.h"
 
 ProjectPreset ProjectPreset::fromJson(const QJsonObject& object)
 {

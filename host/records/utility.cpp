@@ -1,4 +1,4 @@
-#include "utility.h"
+#include "records/utility.h"
 
 #include <QFontMetrics>
 

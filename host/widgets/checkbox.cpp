@@ -1,4 +1,4 @@
-#include "checkbox.h"
+#include "widgets/checkbox.h"
 
 CheckBox::CheckBox(QWidget* parent) : QCheckBox(parent)
 {

@@ -1,4 +1,4 @@
-#include "combobox.h"
+#include "widgets/combobox.h"
 
 #include <QWheelEvent>
 

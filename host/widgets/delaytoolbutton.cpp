@@ -1,4 +1,4 @@
-#include "delaytoolbutton.h"
+#include "widgets/delaytoolbutton.h"
 
 #include <QMouseEvent>
 

@@ -1,4 +1,4 @@
-#include "frame.h"
+#include "widgets/frame.h"
 
 Frame::Frame(QWidget* parent) : QFrame(parent)
 {

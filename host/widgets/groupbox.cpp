@@ -1,4 +1,4 @@
-#include "groupbox.h"
+#include "widgets/groupbox.h"
 
 GroupBox::GroupBox(QWidget* parent) : QGroupBox(parent)
 {

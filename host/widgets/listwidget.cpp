@@ -1,4 +1,4 @@
-#include "listwidget.h"
+#include "widgets/listwidget.h"
 
 ListWidget::ListWidget(QWidget* parent) : QListWidget(parent)
 {

@@ -1,6 +1,6 @@
-#include "qmessageboxex.h"
+#include "widgets/qmessageboxex.h"
 
-#include "messagebox.h"
+#include "widgets/messagebox.h"
 
 QMessageBox::StandardButton QMessageBoxEx::question(QWidget* parent, const QString& title, const QString& text,
                                                     StandardButtons buttons, StandardButton defaultButton)

@@ -1,4 +1,4 @@
-#include "splashwidget.h"
+#include "widgets/splashwidget.h"
 
 #include <QPainter>
 

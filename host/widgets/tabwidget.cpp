@@ -1,4 +1,4 @@
-#include "tabwidget.h"
+#include "widgets/tabwidget.h"
 
 TabWidget::TabWidget(QWidget* parent) : QTabWidget(parent)
 {

@@ -1,6 +1,6 @@
-#include "codecdialogstate.h"
+#include "codec/codecdialogstate.h"
 
-#include "codectables.h"
+#include "codec/codectables.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

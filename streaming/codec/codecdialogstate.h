@@ -1,7 +1,7 @@
 #pragma once
 
-#include "codecpreset.h"
-#include "sizedefinition.h"
+#include "codec/sizedefinition.h"
+#include "records/codecpreset.h"
 
 // The codec dialog's last accepted choices, kept per user in QSettings "ql.codec.state"
 // as one compact JSON object; a new preset starts from them.

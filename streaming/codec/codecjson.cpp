@@ -1,4 +1,4 @@
-#include "codecjson.h"
+#include "codec/codecjson.h"
 
 void CodecJson::write(QJsonObject& o, const CodecPreset& preset)
 {

@@ -1,10 +1,10 @@
-#include "codecpresetdialog.h"
+#include "codec/codecpresetdialog.h"
 #include "ui_codecpresetdialog.h"
 
-#include "codecdialogstate.h"
-#include "codecmanager.h"
-#include "licensemodel.h"
-#include "nametables.h"
+#include "codec/codecdialogstate.h"
+#include "records/licensemodel.h"
+#include "stores/codecmanager.h"
+#include "stores/nametables.h"
 
 #include <QIntValidator>
 #include <QPushButton>

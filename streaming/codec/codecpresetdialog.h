@@ -1,8 +1,8 @@
 #pragma once
 
-#include "codecpreset.h"
-#include "codectables.h"
-#include "sizedefinition.h"
+#include "codec/codectables.h"
+#include "codec/sizedefinition.h"
+#include "records/codecpreset.h"
 
 #include <QDialog>
 

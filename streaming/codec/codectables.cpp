@@ -1,7 +1,7 @@
-#include "codectables.h"
+#include "codec/codectables.h"
 
-#include "licensemodel.h"
-#include "streamingmanager.h"
+#include "records/licensemodel.h"
+#include "stores/streamingmanager.h"
 
 #include <QCoreApplication>
 #include <QHash>

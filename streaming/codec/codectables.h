@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sizedefinition.h"
+#include "codec/sizedefinition.h"
 
 #include <QList>
 #include <QLoggingCategory>

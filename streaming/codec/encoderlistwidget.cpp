@@ -1,11 +1,11 @@
-#include "encoderlistwidget.h"
+#include "codec/encoderlistwidget.h"
 #include "ui_encoderlistwidget.h"
 
-#include "codecmanager.h"
-#include "codecpresetdialog.h"
-#include "codectables.h"
-#include "licensemodel.h"
-#include "qmessageboxex.h"
+#include "codec/codecpresetdialog.h"
+#include "codec/codectables.h"
+#include "records/licensemodel.h"
+#include "stores/codecmanager.h"
+#include "widgets/qmessageboxex.h"
 
 #include <QSignalBlocker>
 

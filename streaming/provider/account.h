@@ -1,9 +1,9 @@
 #pragma once
 
-#include "channel.h"
-#include "eventinfo.h"
-#include "livechannel.h"
-#include "pageinfo.h"
+#include "provider/eventinfo.h"
+#include "provider/livechannel.h"
+#include "provider/pageinfo.h"
+#include "stores/channel.h"
 
 #include <QList>
 #include <QPair>

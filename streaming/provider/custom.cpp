@@ -1,4 +1,4 @@
-#include "custom.h"
+#include "provider/custom.h"
 
 Custom::Custom(ViewInterface* view)
     : Provider(view, QStringLiteral("Custom"))

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "provider.h"
+#include "provider/provider.h"
 
 // The user's own servers: nothing to ask of any service.
 class Custom : public Provider

@@ -1,8 +1,8 @@
-#include "dailymotion.h"
+#include "provider/dailymotion.h"
 
-#include "jsonreader.h"
-#include "serviceconfig.h"
-#include "viewinterface.h"
+#include "provider/jsonreader.h"
+#include "provider/serviceconfig.h"
+#include "provider/viewinterface.h"
 
 #include <QUrlQuery>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "provider.h"
+#include "provider/provider.h"
 
 // DailyMotion: OAuth code flow; the account's live videos are its channels.
 class DailyMotion : public Provider

@@ -1,7 +1,7 @@
-#include "hitbox.h"
+#include "provider/hitbox.h"
 
-#include "jsonreader.h"
-#include "serviceconfig.h"
+#include "provider/jsonreader.h"
+#include "provider/serviceconfig.h"
 
 Hitbox::Hitbox(ViewInterface* view)
     : Provider(view, QStringLiteral("Smashcast API"))

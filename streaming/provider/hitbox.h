@@ -1,6 +1,6 @@
 #pragma once
 
-#include "provider.h"
+#include "provider/provider.h"
 
 // Smashcast (formerly Hitbox): password login, ingest list and media key.
 class Hitbox : public Provider

@@ -1,4 +1,4 @@
-#include "jsonreader.h"
+#include "provider/jsonreader.h"
 
 #include <QJsonArray>
 #include <QJsonValue>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "channel.h"
+#include "stores/channel.h"
 
 #include <QString>
 

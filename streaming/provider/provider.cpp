@@ -1,6 +1,6 @@
-#include "provider.h"
+#include "provider/provider.h"
 
-#include "viewinterface.h"
+#include "provider/viewinterface.h"
 
 #include <QEventLoop>
 #include <QJsonDocument>

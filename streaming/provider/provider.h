@@ -1,8 +1,8 @@
 #pragma once
 
-#include "account.h"
-#include "eventinfo.h"
-#include "livechannel.h"
+#include "provider/account.h"
+#include "provider/eventinfo.h"
+#include "provider/livechannel.h"
 
 #include <QByteArray>
 #include <QJsonObject>

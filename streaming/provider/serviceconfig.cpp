@@ -1,4 +1,4 @@
-#include "serviceconfig.h"
+#include "provider/serviceconfig.h"
 
 #include <QSettings>
 #include <QtGlobal>

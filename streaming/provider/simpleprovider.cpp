@@ -1,4 +1,4 @@
-#include "simpleprovider.h"
+#include "provider/simpleprovider.h"
 
 #include <QSettings>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "provider.h"
+#include "provider/provider.h"
 
 // A built-in service without an API: a fixed stream URL or server table and
 // the stream key the user pasted, remembered per service under "ql.stream.key".

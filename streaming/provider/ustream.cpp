@@ -1,7 +1,7 @@
-#include "ustream.h"
+#include "provider/ustream.h"
 
-#include "jsonreader.h"
-#include "serviceconfig.h"
+#include "provider/jsonreader.h"
+#include "provider/serviceconfig.h"
 
 UStream::UStream(ViewInterface* view)
     : Provider(view, QStringLiteral("UStream"))

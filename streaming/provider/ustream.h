@@ -1,6 +1,6 @@
 #pragma once
 
-#include "provider.h"
+#include "provider/provider.h"
 
 // UStream: password login, then every channel of the account with its key.
 class UStream : public Provider

@@ -1,7 +1,7 @@
-#include "webview.h"
+#include "provider/webview.h"
 
-#include "browsermanager.h"
-#include "cefmanager.h"
+#include "browser/browsermanager.h"
+#include "browser/cefmanager.h"
 
 #include <QLabel>
 #include <QLoggingCategory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "icefcapturecallback.h"
+#include "browser/icefcapturecallback.h"
 
 #include <QByteArray>
 #include <QImage>

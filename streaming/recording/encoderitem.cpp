@@ -1,10 +1,10 @@
-#include "encoderitem.h"
+#include "recording/encoderitem.h"
 #include "ui_encoderitem.h"
 
-#include "codecmanager.h"
-#include "nametables.h"
-#include "outputinterface.h"
-#include "quillonengine.h"
+#include "engine/quillonengine.h"
+#include "interface/outputinterface.h"
+#include "stores/codecmanager.h"
+#include "stores/nametables.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include "encoderrows.h"
+#include "recording/encoderrows.h"
 
-#include "encoderitem.h"
-#include "messagebox.h"
-#include "qmessageboxex.h"
+#include "recording/encoderitem.h"
+#include "widgets/messagebox.h"
+#include "widgets/qmessageboxex.h"
 
 #include <QListWidget>
 

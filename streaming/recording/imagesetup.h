@@ -1,6 +1,6 @@
 #pragma once
 
-#include "snapshot.h"
+#include "stores/snapshot.h"
 #include "streaming_export.h"
 
 #include <QString>

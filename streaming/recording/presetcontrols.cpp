@@ -1,6 +1,6 @@
-#include "presetcontrols.h"
+#include "recording/presetcontrols.h"
 
-#include "encoderlistwidget.h"
+#include "codec/encoderlistwidget.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "codecpreset.h"
+#include "records/codecpreset.h"
 
 class EncoderListWidget;
 class QCheckBox;

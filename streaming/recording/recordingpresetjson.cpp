@@ -1,8 +1,8 @@
-#include "recordingpresetjson.h"
+#include "recording/recordingpresetjson.h"
 
-#include "codecjson.h"
-#include "codectables.h"
-#include "licensemodel.h"
+#include "codec/codecjson.h"
+#include "codec/codectables.h"
+#include "records/licensemodel.h"
 
 #include <QUuid>
 

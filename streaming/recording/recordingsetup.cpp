@@ -1,18 +1,18 @@
-#include "recordingsetup.h"
+#include "recording/recordingsetup.h"
 
 #include "ui_recordingsetup.h"
 
-#include "codectables.h"
-#include "encoderrows.h"
-#include "filenamingdialog.h"
-#include "filetag.h"
-#include "licensemodel.h"
-#include "messagebox.h"
-#include "outputinterface.h"
-#include "presetcontrols.h"
-#include "quillonengine.h"
-#include "recordingpresetjson.h"
-#include "streamingformlists.h"
+#include "codec/codectables.h"
+#include "engine/quillonengine.h"
+#include "interface/outputinterface.h"
+#include "recording/encoderrows.h"
+#include "recording/presetcontrols.h"
+#include "recording/recordingpresetjson.h"
+#include "recording/sourcelists.h"
+#include "records/licensemodel.h"
+#include "stores/filenamingdialog.h"
+#include "stores/filetag.h"
+#include "widgets/messagebox.h"
 
 #include <QFileDialog>
 #include <QJsonArray>
@@ -44,19 +44,6 @@ const ContainerRule containerRules[] = {
     {64, 0x3600, true, 19},
     {128, 0x800, false, 16},
 };
-
-struct SplitInterval {
-    const char* text;
-    int seconds;
-};
-const SplitInterval splitIntervals[] = {
-    {QT_TRANSLATE_NOOP("RecordingSetup", "5 minutes"), 300},   {QT_TRANSLATE_NOOP("RecordingSetup", "15 minutes"), 900},
-    {QT_TRANSLATE_NOOP("RecordingSetup", "30 minutes"), 1800}, {QT_TRANSLATE_NOOP("RecordingSetup", "45 minutes"), 2700},
-    {QT_TRANSLATE_NOOP("RecordingSetup", "1 hour"), 3600},     {QT_TRANSLATE_NOOP("RecordingSetup", "2 hours"), 7200},
-    {QT_TRANSLATE_NOOP("RecordingSetup", "4 hours"), 14400},   {QT_TRANSLATE_NOOP("RecordingSetup", "8 hours"), 28800},
-    {QT_TRANSLATE_NOOP("RecordingSetup", "12 hours"), 43200},  {QT_TRANSLATE_NOOP("RecordingSetup", "24 hours"), 86400},
-};
-const int defaultSplitSeconds = 43200;
 
 const char* const mediaBins[] = {QT_TRANSLATE_NOOP("RecordingSetup", "None"), QT_TRANSLATE_NOOP("RecordingSetup", "CLIP 1"),
                                  QT_TRANSLATE_NOOP("RecordingSetup", "CLIP 2")};
@@ -91,36 +78,14 @@ void RecordingSetup::initializeUi()
     for (auto it = containers.cbegin(); it != containers.cend(); ++it)
         ui->containerList->addItem(it.value().toUpper(), it.key());
 
-    using Lists = StreamingFormLists;
-    auto addSource = [](QComboBox* list, const QString& text, const SourceMap& map) {
-        list->addItem(text, QVariant::fromValue(map));
-    };
-    for (QComboBox* list : {ui->videoSourceList, ui->audioSourceList}) {
-        addSource(list, tr("PGM"), {{Lists::Program, -1}});
-        addSource(list, tr("PGM(Clean)"), {{Lists::CleanProgram, -1}});
-        addSource(list, tr("PVW"), {{Lists::Preview, -1}});
-    }
+    for (QComboBox* list : {ui->videoSourceList, ui->audioSourceList})
+        SourceLists::addProgramme(list);
     if (license.audioBusEnabled()) {
         const ProjectPreset::Processing processing = QuillonEngine::projectPreset().processing();
-        const bool a = processing.busAEnabled;
-        const bool b = processing.busBEnabled;
-        if (a)
-            addSource(ui->audioSourceList, tr("BUS A"), {{Lists::BusA, -1}});
-        if (b)
-            addSource(ui->audioSourceList, tr("BUS B"), {{Lists::BusB, -1}});
-        if (a && b)
-            addSource(ui->audioSourceList, tr("BUS A+B"), {{Lists::BusA, -1}, {Lists::BusB, -1}});
-        if (a)
-            addSource(ui->audioSourceList, tr("PGM+A"), {{Lists::Program, -1}, {Lists::BusA, -1}});
-        if (b)
-            addSource(ui->audioSourceList, tr("PGM+B"), {{Lists::Program, -1}, {Lists::BusB, -1}});
-        if (a && b)
-            addSource(ui->audioSourceList, tr("PGM+A+B"), {{Lists::Program, -1}, {Lists::BusA, -1}, {Lists::BusB, -1}});
+        SourceLists::addBuses(ui->audioSourceList, processing.busAEnabled, processing.busBEnabled);
     }
 
-    for (const SplitInterval& interval : splitIntervals)
-        ui->splitTimeList->addItem(tr(interval.text), interval.seconds);
-    ui->splitTimeList->setCurrentIndex(ui->splitTimeList->findData(defaultSplitSeconds));
+    SourceLists::fillSplitTimes(ui->splitTimeList);
     ui->splitTimeList->setEnabled(false);
     for (const char* bin : mediaBins)
         ui->mediaToBin->addItem(tr(bin), QString::fromLatin1(bin));
@@ -228,8 +193,8 @@ void RecordingSetup::applyPreset(const CodecPreset& preset, bool withMediaBin)
         ui->fileTag->setText(local.fileTag);
     ui->containerList->setCurrentText(preset.container().name.toUpper());
     ui->encoderList->selectPreset(preset);
-    StreamingFormLists::selectSource(ui->videoSourceList, preset.videoSource());
-    StreamingFormLists::selectSource(ui->audioSourceList, preset.audioSource());
+    SourceLists::selectSource(ui->videoSourceList, preset.videoSource());
+    SourceLists::selectSource(ui->audioSourceList, preset.audioSource());
     ui->splitFile->setChecked(local.splitTime >= 1);
     const int split = ui->splitTimeList->findData(local.splitTime);
     if (split >= 0)
@@ -285,7 +250,7 @@ CodecPreset RecordingSetup::presetFromControls(const QString& name) const
 
 void RecordingSetup::videoSourceChange()
 {
-    StreamingFormLists::selectSource(ui->audioSourceList, ui->videoSourceList->currentData().value<SourceMap>());
+    SourceLists::selectSource(ui->audioSourceList, ui->videoSourceList->currentData().value<SourceMap>());
 }
 
 void RecordingSetup::existingDirectory()

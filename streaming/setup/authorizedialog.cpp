@@ -1,4 +1,4 @@
-#include "authorizedialog.h"
+#include "setup/authorizedialog.h"
 
 #include "ui_authorizedialog.h"
 

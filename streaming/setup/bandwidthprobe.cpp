@@ -1,4 +1,4 @@
-#include "bandwidthprobe.h"
+#include "setup/bandwidthprobe.h"
 
 #include <QElapsedTimer>
 #include <QLoggingCategory>

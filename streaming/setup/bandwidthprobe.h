@@ -1,6 +1,6 @@
 #pragma once
 
-#include "account.h"
+#include "provider/account.h"
 
 #include <QList>
 #include <QObject>

@@ -1,7 +1,7 @@
-#include "bandwidthwidget.h"
+#include "setup/bandwidthwidget.h"
 
-#include "bandwidthprobe.h"
-#include "provider.h"
+#include "provider/provider.h"
+#include "setup/bandwidthprobe.h"
 
 #include <QPainter>
 #include <QThreadPool>
@@ -48,6 +48,11 @@ void BandwidthWidget::stop()
     m_stopped = true;
     if (m_probe)
         m_probe->stop();
+}
+
+Provider* BandwidthWidget::provider() const
+{
+    return m_provider;
 }
 
 void BandwidthWidget::setColor(const QColor& color)

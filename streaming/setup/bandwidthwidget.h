@@ -32,7 +32,7 @@ public:
     void setColor(const QColor& color);
     bool isStopped() const { return m_stopped; }
     bool isRunning() const { return m_watcher.isRunning(); }
-    Provider* provider() const { return m_provider; }
+    Provider* provider() const;
 
 public slots:
     void stop();

@@ -1,4 +1,4 @@
-#include "basewidget.h"
+#include "setup/basewidget.h"
 #include "ui_basewidget.h"
 
 BaseWidget::BaseWidget(QWidget* parent)

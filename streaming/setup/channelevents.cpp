@@ -1,8 +1,8 @@
-#include "channelevents.h"
+#include "setup/channelevents.h"
 
-#include "eventdialog.h"
-#include "provider.h"
-#include "qmessageboxex.h"
+#include "provider/provider.h"
+#include "setup/eventdialog.h"
+#include "widgets/qmessageboxex.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "customservers.h"
+#include "setup/customservers.h"
 
-#include "provider.h"
-#include "qmessageboxex.h"
-#include "serverdialog.h"
-#include "servicetables.h"
-#include "streamingmanager.h"
+#include "provider/provider.h"
+#include "setup/serverdialog.h"
+#include "setup/servicetables.h"
+#include "stores/streamingmanager.h"
+#include "widgets/qmessageboxex.h"
 
 #include <QComboBox>
 #include <QSignalBlocker>

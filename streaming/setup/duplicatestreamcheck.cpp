@@ -1,4 +1,4 @@
-#include "duplicatestreamcheck.h"
+#include "setup/duplicatestreamcheck.h"
 
 #include <QUrl>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "codecmodel.h"
+#include "records/codecmodel.h"
 
 #include <QList>
 

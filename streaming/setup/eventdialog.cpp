@@ -1,6 +1,6 @@
-#include "eventdialog.h"
+#include "setup/eventdialog.h"
 
-#include "provider.h"
+#include "provider/provider.h"
 #include "ui_eventdialog.h"
 
 #include <QDateTime>

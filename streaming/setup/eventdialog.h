@@ -1,6 +1,6 @@
 #pragma once
 
-#include "eventinfo.h"
+#include "provider/eventinfo.h"
 
 #include <QDialog>
 

@@ -1,8 +1,8 @@
-#include "panelupdater.h"
+#include "setup/panelupdater.h"
 
-#include "basewidget.h"
-#include "provider.h"
-#include "servicetables.h"
+#include "provider/provider.h"
+#include "setup/basewidget.h"
+#include "setup/servicetables.h"
 #include "ui_basewidget.h"
 
 #include <QSignalBlocker>

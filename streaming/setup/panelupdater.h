@@ -1,8 +1,8 @@
 #pragma once
 
-#include "channel.h"
-#include "codecmodel.h"
-#include "oauth.h"
+#include "records/codecmodel.h"
+#include "stores/channel.h"
+#include "stores/oauth.h"
 
 #include <QtGlobal>
 

@@ -1,7 +1,7 @@
-#include "serverdialog.h"
+#include "setup/serverdialog.h"
 
-#include "messagebox.h"
 #include "ui_serverdialog.h"
+#include "widgets/messagebox.h"
 
 #include <QCompleter>
 #include <QIntValidator>

@@ -1,6 +1,6 @@
-#include "servicetables.h"
+#include "setup/servicetables.h"
 
-#include "serviceconfig.h"
+#include "provider/serviceconfig.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>

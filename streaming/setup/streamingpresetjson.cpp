@@ -1,7 +1,7 @@
-#include "streamingpresetjson.h"
+#include "setup/streamingpresetjson.h"
 
-#include "codecjson.h"
-#include "servicetables.h"
+#include "codec/codecjson.h"
+#include "setup/servicetables.h"
 
 #include <QJsonArray>
 #include <QUuid>

@@ -1,32 +1,32 @@
-#include "streamingsetup.h"
+#include "setup/streamingsetup.h"
 
 #include "ui_basewidget.h"
 #include "ui_streamingsetup.h"
 
-#include "authorizedialog.h"
-#include "bandwidthwidget.h"
-#include "channelevents.h"
-#include "codectables.h"
-#include "custom.h"
-#include "customservers.h"
-#include "duplicatestreamcheck.h"
-#include "encoderrows.h"
-#include "filenamingdialog.h"
-#include "filetag.h"
-#include "hitbox.h"
-#include "messagebox.h"
-#include "outputinterface.h"
-#include "panelupdater.h"
-#include "presetcontrols.h"
-#include "quillonengine.h"
-#include "servicetables.h"
-#include "simpleprovider.h"
-#include "splashwidget.h"
-#include "streamingformlists.h"
-#include "streamingmanager.h"
-#include "streamingpresetjson.h"
-#include "ustream.h"
-#include "webdialog.h"
+#include "codec/codectables.h"
+#include "engine/quillonengine.h"
+#include "interface/outputinterface.h"
+#include "provider/custom.h"
+#include "provider/hitbox.h"
+#include "provider/simpleprovider.h"
+#include "provider/ustream.h"
+#include "recording/encoderrows.h"
+#include "recording/presetcontrols.h"
+#include "recording/sourcelists.h"
+#include "setup/authorizedialog.h"
+#include "setup/bandwidthwidget.h"
+#include "setup/channelevents.h"
+#include "setup/customservers.h"
+#include "setup/duplicatestreamcheck.h"
+#include "setup/panelupdater.h"
+#include "setup/servicetables.h"
+#include "setup/streamingpresetjson.h"
+#include "setup/webdialog.h"
+#include "stores/filenamingdialog.h"
+#include "stores/filetag.h"
+#include "stores/streamingmanager.h"
+#include "widgets/messagebox.h"
+#include "widgets/splashwidget.h"
 
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -133,7 +133,7 @@ StreamingSetup::StreamingSetup(QWidget* parent, OutputInterface* host)
     ui->saveGroup->setChecked(false);
     ui->folder->setText(FileTag::defaultFolder());
     ui->splitTimeList->setEnabled(false);
-    StreamingFormLists::fillSplitTimes(ui->splitTimeList);
+    SourceLists::fillSplitTimes(ui->splitTimeList);
     connect(ui->splitFile, &QCheckBox::toggled, ui->splitTimeList, &QWidget::setEnabled);
 
     connect(ui->browse, &QToolButton::clicked, this, &StreamingSetup::existingDirectory);
@@ -204,8 +204,12 @@ void StreamingSetup::initializeUi()
     Ui::BaseWidget* panel = ui->baseWidget->form();
     webDialog = new WebDialog(nullptr);
     webDialog->setModal(true);
-    StreamingFormLists::fillSources(ui->videoSourceList, ui->audioSourceList, settings,
-                                    QuillonEngine::projectPreset());
+    const ProjectPreset project = QuillonEngine::projectPreset();
+    for (QComboBox* list : {ui->videoSourceList, ui->audioSourceList}) {
+        SourceLists::addProgramme(list, project.deviceInfo().programOutputs);
+        if (settings.audioBusEnabled())
+            SourceLists::addBuses(list, project.processing().busAEnabled, project.processing().busBEnabled);
+    }
     ui->codecList->initialize(CodecTables::UsageStreaming, LicenseModel::usageStreaming,
                               settings.availableAudioMask());
     ui->codecList->setCodecMask(settings.availableVideoMask(), settings.availableAudioMask());
@@ -552,8 +556,8 @@ void StreamingSetup::applyRow(const CodecPreset& preset)
         f->serverSelect->setCurrentText(s.serverName);
     f->pageSelect->setCurrentText(s.pageName);
     f->channelSelect->setCurrentText(s.channelName);
-    StreamingFormLists::selectSource(ui->videoSourceList, preset.videoSource());
-    StreamingFormLists::selectSource(ui->audioSourceList, preset.audioSource());
+    SourceLists::selectSource(ui->videoSourceList, preset.videoSource());
+    SourceLists::selectSource(ui->audioSourceList, preset.audioSource());
     ui->codecList->selectPreset(preset);
 }
 
@@ -630,7 +634,7 @@ void StreamingSetup::addRow(const CodecPreset& preset)
 
 void StreamingSetup::videoSourceChange()
 {
-    StreamingFormLists::selectSource(ui->audioSourceList, ui->videoSourceList->currentData().value<SourceMap>());
+    SourceLists::selectSource(ui->audioSourceList, ui->videoSourceList->currentData().value<SourceMap>());
 }
 
 void StreamingSetup::existingDirectory()

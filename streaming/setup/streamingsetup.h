@@ -1,9 +1,9 @@
 #pragma once
 
-#include "codecpreset.h"
-#include "licensemodel.h"
+#include "provider/viewinterface.h"
+#include "records/codecpreset.h"
+#include "records/licensemodel.h"
 #include "streaming_export.h"
-#include "viewinterface.h"
 
 #include <QDialog>
 #include <QHash>

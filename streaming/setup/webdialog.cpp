@@ -1,4 +1,4 @@
-#include "webdialog.h"
+#include "setup/webdialog.h"
 
 #include "ui_webdialog.h"
 

@@ -1,8 +1,8 @@
-#include "codecmanager.h"
+#include "stores/codecmanager.h"
 
-#include "nametables.h"
-#include "orderedjson.h"
-#include "storefile.h"
+#include "stores/nametables.h"
+#include "stores/orderedjson.h"
+#include "stores/storefile.h"
 
 #include <QJsonValue>
 

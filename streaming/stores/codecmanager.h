@@ -1,8 +1,8 @@
 #pragma once
 
-#include "codecpreset.h"
-#include "contentssettings.h"
-#include "singleton.h"
+#include "records/codecpreset.h"
+#include "records/contentssettings.h"
+#include "stores/singleton.h"
 #include "streaming_export.h"
 
 #include <QJsonObject>

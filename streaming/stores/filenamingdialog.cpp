@@ -1,10 +1,9 @@
-#include "filenamingdialog.h"
+#include "stores/filenamingdialog.h"
 #include "ui_filenamingdialog.h"
 
-#include "codecpreset.h"
-#include "filetag.h"
-#include "imagesetup.h"
-#include "snapshot.h"
+#include "records/codecpreset.h"
+#include "stores/filetag.h"
+#include "stores/snapshot.h"
 
 #include <QPushButton>
 
@@ -46,6 +45,6 @@ void FileNamingDialog::fileTagChange(const QString& text)
         ui->fileName->setText(FileTag::fromCodecPreset(m_preset, true));
     } else if (m_shot) {
         m_shot->fileTag = text;
-        ui->fileName->setText(ImageSetup::tagFromName(*m_shot, true));
+        ui->fileName->setText(FileTag::fromSnapshot(*m_shot, true));
     }
 }

@@ -1,11 +1,13 @@
-#include "filetag.h"
+#include "stores/filetag.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
-#include "codecpreset.h"
-#include "nametables.h"
-#include "snapshot.h"
+#include "records/codecpreset.h"
+#include "stores/nametables.h"
+#include "stores/snapshot.h"
 
 #include <QHash>
 #include <QStringList>
@@ -133,4 +135,25 @@ QString FileTag::defaultFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::MoviesLocation) + QLatin1Char('/')
          + QCoreApplication::applicationName();
+}
+
+QString FileTag::imagePath(const Snapshot& shot)
+{
+    const QString base = shot.directory + QDir::separator() + fromSnapshot(shot, false);
+    const QString suffix = QLatin1Char('.') + shot.extension;
+
+    QString path = base;
+    QString candidate = base + suffix;
+    for (int n = 2; n < 1000; ++n) {
+        if (!QFileInfo::exists(candidate)) {
+            path = candidate;
+            break;
+        }
+        candidate = base + QStringLiteral(" %1").arg(n) + suffix;
+    }
+
+    const QString directory = QFileInfo(path).absolutePath();
+    if (!QDir(directory).exists())
+        QDir().mkpath(directory);
+    return path;
 }

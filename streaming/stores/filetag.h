@@ -21,6 +21,9 @@ class STREAMING_EXPORT FileTag
 public:
     static QString fromCodecPreset(const CodecPreset* preset, bool withExtension);
     static QString fromSnapshot(const Snapshot& shot, bool withExtension);
+    // The next free image path in the grab's directory ("name.png", "name 2.png", ...);
+    // its directory is created when missing.
+    static QString imagePath(const Snapshot& shot);
     // Where recordings go until the operator picks a folder: the user's movies folder.
     static QString defaultFolder();
 

@@ -1,4 +1,4 @@
-#include "nametables.h"
+#include "stores/nametables.h"
 
 const QStringList& NameTables::pixelFormats()
 {

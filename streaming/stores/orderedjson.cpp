@@ -1,4 +1,4 @@
-#include "orderedjson.h"
+#include "stores/orderedjson.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "channel.h"
-#include "oauth.h"
+#include "stores/channel.h"
+#include "stores/oauth.h"
 
 // A saved server: its channel part followed by its account part.
 struct ServerInfo {

@@ -1,4 +1,4 @@
-#include "storefile.h"
+#include "stores/storefile.h"
 
 #include <QDir>
 #include <QDirIterator>

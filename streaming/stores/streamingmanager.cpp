@@ -1,7 +1,7 @@
-#include "streamingmanager.h"
+#include "stores/streamingmanager.h"
 
-#include "orderedjson.h"
-#include "storefile.h"
+#include "stores/orderedjson.h"
+#include "stores/storefile.h"
 
 #include <QJsonValue>
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "channel.h"
-#include "chatdesc.h"
-#include "contentssettings.h"
-#include "licensemodel.h"
-#include "oauth.h"
-#include "serverinfo.h"
-#include "singleton.h"
+#include "records/contentssettings.h"
+#include "records/licensemodel.h"
+#include "stores/channel.h"
+#include "stores/chatdesc.h"
+#include "stores/oauth.h"
+#include "stores/serverinfo.h"
+#include "stores/singleton.h"
 #include "streaming_export.h"
 
 #include <QJsonObject>

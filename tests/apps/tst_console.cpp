@@ -2,20 +2,20 @@
 #include <QtWidgets>
 
 #ifdef QUILLON_CONSOLE
-#include "activitylog.h"
-#include "codecmanager.h"
-#include "fileoutputinterface.h"
-#include "filenamingdialog.h"
-#include "hostsession.h"
-#include "mainwindow.h"
-#include "messagebox.h"
-#include "outputdialogregistry.h"
-#include "encoderitem.h"
-#include "modaldriver.h"
-#include "quillonengine.h"
-#include "serverdialog.h"
-#include "streamingsetup.h"
-#include "streamingsetupform.h"
+#include "engine/quillonengine.h"
+#include "interface/fileoutputinterface.h"
+#include "quillon/activitylog.h"
+#include "quillon/hostsession.h"
+#include "quillon/mainwindow.h"
+#include "quillon/outputdialogregistry.h"
+#include "recording/encoderitem.h"
+#include "setup/serverdialog.h"
+#include "setup/streamingsetup.h"
+#include "stores/codecmanager.h"
+#include "stores/filenamingdialog.h"
+#include "support/modaldriver.h"
+#include "support/streamingsetupform.h"
+#include "widgets/messagebox.h"
 
 // The console window in-process: its lists, its dialog buttons and its engine log.
 class tst_Console : public QObject

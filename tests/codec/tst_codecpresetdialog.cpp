@@ -1,9 +1,9 @@
-#include "codecmanager.h"
-#include "codecpresetdialog.h"
-#include "codectables.h"
-#include "licensemodel.h"
-#include "tempstores.h"
-#include "testkit.h"
+#include "codec/codecpresetdialog.h"
+#include "codec/codectables.h"
+#include "records/licensemodel.h"
+#include "stores/codecmanager.h"
+#include "support/tempstores.h"
+#include "support/testkit.h"
 
 #include <QDialogButtonBox>
 #include <QGroupBox>

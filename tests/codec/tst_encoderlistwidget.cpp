@@ -1,11 +1,11 @@
-#include "codecmanager.h"
-#include "codecpresetdialog.h"
-#include "codectables.h"
-#include "encoderlistwidget.h"
-#include "licensemodel.h"
-#include "modaldriver.h"
-#include "tempstores.h"
-#include "testkit.h"
+#include "codec/codecpresetdialog.h"
+#include "codec/codectables.h"
+#include "codec/encoderlistwidget.h"
+#include "records/licensemodel.h"
+#include "stores/codecmanager.h"
+#include "support/modaldriver.h"
+#include "support/tempstores.h"
+#include "support/testkit.h"
 
 #include <QSettings>
 #include <QToolButton>

@@ -1,6 +1,6 @@
-#include "capturemanager.h"
-#include "displaymode.h"
-#include "ndioutput.h"
+#include "capture/capturemanager.h"
+#include "capture/displaymode.h"
+#include "capture/ndioutput.h"
 
 #include <QtTest>
 

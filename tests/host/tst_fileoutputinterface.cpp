@@ -1,5 +1,5 @@
-#include "fileoutputinterface.h"
-#include "testkit.h"
+#include "interface/fileoutputinterface.h"
+#include "support/testkit.h"
 
 #include <QtTest>
 

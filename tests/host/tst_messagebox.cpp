@@ -1,5 +1,5 @@
-#include "messagebox.h"
-#include "qmessageboxex.h"
+#include "widgets/messagebox.h"
+#include "widgets/qmessageboxex.h"
 
 #include <QtTest>
 

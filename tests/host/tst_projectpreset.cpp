@@ -1,4 +1,4 @@
-#include "projectpreset.h"
+#include "records/projectpreset.h"
 
 #include <QtTest>
 

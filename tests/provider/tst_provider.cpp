@@ -1,9 +1,9 @@
-#include "custom.h"
-#include "dailymotion.h"
-#include "hitbox.h"
-#include "servicefixture.h"
-#include "simpleprovider.h"
-#include "ustream.h"
+#include "provider/custom.h"
+#include "provider/dailymotion.h"
+#include "provider/hitbox.h"
+#include "provider/simpleprovider.h"
+#include "provider/ustream.h"
+#include "support/servicefixture.h"
 
 #include <QJsonDocument>
 #include <QNetworkReply>

@@ -1,7 +1,7 @@
 // ctest: slow
-#include "fakeview.h"
-#include "httpserver.h"
-#include "provider.h"
+#include "provider/provider.h"
+#include "support/fakeview.h"
+#include "support/httpserver.h"
 
 #include <QElapsedTimer>
 #include <QNetworkReply>

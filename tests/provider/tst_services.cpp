@@ -1,7 +1,7 @@
-#include "dailymotion.h"
-#include "hitbox.h"
-#include "servicefixture.h"
-#include "ustream.h"
+#include "provider/dailymotion.h"
+#include "provider/hitbox.h"
+#include "provider/ustream.h"
+#include "support/servicefixture.h"
 
 #include <QtTest>
 

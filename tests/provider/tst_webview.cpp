@@ -1,5 +1,5 @@
-#include "fakecefmanager.h"
-#include "webview.h"
+#include "provider/webview.h"
+#include "support/fakecefmanager.h"
 
 #include <QLabel>
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
-#include "encoderitem.h"
-#include "memoryoutputinterface.h"
-#include "quillonengine.h"
-#include "testkit.h"
+#include "engine/quillonengine.h"
+#include "interface/memoryoutputinterface.h"
+#include "recording/encoderitem.h"
+#include "support/testkit.h"
 
 #include <QLabel>
 #include <QListWidgetItem>

@@ -1,8 +1,8 @@
 // ctest: serial
-#include "bandwidthprobe.h"
-#include "bandwidthwidget.h"
-#include "fakeview.h"
-#include "simpleprovider.h"
+#include "provider/simpleprovider.h"
+#include "setup/bandwidthprobe.h"
+#include "setup/bandwidthwidget.h"
+#include "support/fakeview.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
-#include "eventdialog.h"
-#include "fakeview.h"
-#include "provider.h"
+#include "provider/provider.h"
+#include "setup/eventdialog.h"
+#include "support/fakeview.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,5 +1,5 @@
-#include "messagebox.h"
-#include "serverdialog.h"
+#include "setup/serverdialog.h"
+#include "widgets/messagebox.h"
 
 #include <QCheckBox>
 #include <QComboBox>

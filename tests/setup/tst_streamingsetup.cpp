@@ -1,15 +1,15 @@
-#include "authorizedialog.h"
-#include "httpserver.h"
-#include "licensemodel.h"
-#include "memoryoutputinterface.h"
-#include "messagebox.h"
-#include "modaldriver.h"
-#include "quillonengine.h"
-#include "serviceenvironment.h"
-#include "streamingpresetjson.h"
-#include "streamingsetup.h"
-#include "streamingsetupform.h"
-#include "tempstores.h"
+#include "engine/quillonengine.h"
+#include "interface/memoryoutputinterface.h"
+#include "records/licensemodel.h"
+#include "setup/authorizedialog.h"
+#include "setup/streamingpresetjson.h"
+#include "setup/streamingsetup.h"
+#include "support/httpserver.h"
+#include "support/modaldriver.h"
+#include "support/serviceenvironment.h"
+#include "support/streamingsetupform.h"
+#include "support/tempstores.h"
+#include "widgets/messagebox.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -149,9 +149,9 @@ void TestStreamingSetup::formAtStart()
     QCOMPARE(m_form->button("addPreset")->text(), QStringLiteral("Add Presets"));
     QCOMPARE(m_form->button("removePreset")->text(), QStringLiteral("Remove Presets"));
     QVERIFY(m_form->button("addPreset")->isEnabled()); // the store holds a streaming codec
-    QCOMPARE(m_form->items("videoSourceList"), (QStringList{"PGM", "PGM(Clean)", "PVW"}));
-    QCOMPARE(m_form->items("audioSourceList"),
-             (QStringList{"PGM", "PGM(Clean)", "PVW", "BUS A", "BUS B", "BUS A+B", "PGM+A", "PGM+B", "PGM+A+B"}));
+    const QStringList sources{"PGM", "PGM(Clean)", "PVW", "BUS A", "BUS B", "BUS A+B", "PGM+A", "PGM+B", "PGM+A+B"};
+    QCOMPARE(m_form->items("videoSourceList"), sources);
+    QCOMPARE(m_form->items("audioSourceList"), sources);
 }
 
 void TestStreamingSetup::servicesInOrder()

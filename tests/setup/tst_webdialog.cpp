@@ -1,6 +1,6 @@
-#include "fakecefmanager.h"
-#include "webdialog.h"
-#include "webview.h"
+#include "provider/webview.h"
+#include "setup/webdialog.h"
+#include "support/fakecefmanager.h"
 
 #include <QTest>
 #include <QThread>

@@ -1,6 +1,6 @@
-#include "codecmanager.h"
-#include "tempstores.h"
-#include "testkit.h"
+#include "stores/codecmanager.h"
+#include "support/tempstores.h"
+#include "support/testkit.h"
 
 #include <QJsonDocument>
 #include <QRegularExpression>

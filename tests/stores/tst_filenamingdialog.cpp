@@ -1,7 +1,7 @@
-#include "codecpreset.h"
-#include "filenamingdialog.h"
-#include "filetag.h"
-#include "snapshot.h"
+#include "records/codecpreset.h"
+#include "stores/filenamingdialog.h"
+#include "stores/filetag.h"
+#include "stores/snapshot.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>

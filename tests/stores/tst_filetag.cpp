@@ -1,6 +1,6 @@
-#include "codecpreset.h"
-#include "filetag.h"
-#include "snapshot.h"
+#include "records/codecpreset.h"
+#include "stores/filetag.h"
+#include "stores/snapshot.h"
 
 #include <QTranslator>
 #include <QtTest>

@@ -1,6 +1,6 @@
-#include "filetag.h"
-#include "imagesetup.h"
-#include "testkit.h"
+#include "recording/imagesetup.h"
+#include "stores/filetag.h"
+#include "support/testkit.h"
 
 #include <QTemporaryDir>
 #include <QtTest>

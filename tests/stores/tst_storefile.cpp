@@ -1,6 +1,6 @@
-#include "filesizelimit.h"
-#include "tempstores.h"
-#include "testkit.h"
+#include "support/filesizelimit.h"
+#include "support/tempstores.h"
+#include "support/testkit.h"
 
 #include <QRandomGenerator>
 #include <QtTest>

@@ -1,6 +1,6 @@
-#include "streamingmanager.h"
-#include "tempstores.h"
-#include "testkit.h"
+#include "stores/streamingmanager.h"
+#include "support/tempstores.h"
+#include "support/testkit.h"
 
 #include <QJsonDocument>
 #include <QRegularExpression>

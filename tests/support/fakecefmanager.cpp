@@ -1,7 +1,7 @@
-#include "fakecefmanager.h"
+#include "support/fakecefmanager.h"
 
-#include "browsermanager.h"
-#include "icefcapturecallback.h"
+#include "browser/browsermanager.h"
+#include "browser/icefcapturecallback.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cefmanager.h"
+#include "browser/cefmanager.h"
 
 #include <QImage>
 #include <QMap>

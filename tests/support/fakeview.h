@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewinterface.h"
+#include "provider/viewinterface.h"
 
 #include <QJsonValue>
 #include <QList>

@@ -1,4 +1,4 @@
-#include "filesizelimit.h"
+#include "support/filesizelimit.h"
 
 #include <csignal>
 

@@ -1,4 +1,4 @@
-#include "serviceenvironment.h"
+#include "support/serviceenvironment.h"
 
 #include <QtGlobal>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "serviceconfig.h"
+#include "provider/serviceconfig.h"
 
 #include <QString>
 

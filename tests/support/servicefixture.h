@@ -1,9 +1,9 @@
 #pragma once
 
-#include "fakeview.h"
-#include "httpserver.h"
-#include "livechannel.h"
-#include "serviceenvironment.h"
+#include "provider/livechannel.h"
+#include "support/fakeview.h"
+#include "support/httpserver.h"
+#include "support/serviceenvironment.h"
 
 #include <QStandardPaths>
 #include <QStringList>

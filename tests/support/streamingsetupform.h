@@ -1,14 +1,14 @@
 #pragma once
 
-#include "codecmanager.h"
-#include "codecpreset.h"
-#include "httpserver.h"
-#include "memoryoutputinterface.h"
-#include "messagebox.h"
-#include "serviceenvironment.h"
-#include "streamingsetup.h"
-#include "tempstores.h"
-#include "testkit.h"
+#include "interface/memoryoutputinterface.h"
+#include "records/codecpreset.h"
+#include "setup/streamingsetup.h"
+#include "stores/codecmanager.h"
+#include "support/httpserver.h"
+#include "support/serviceenvironment.h"
+#include "support/tempstores.h"
+#include "support/testkit.h"
+#include "widgets/messagebox.h"
 
 #include <QAbstractButton>
 #include <QApplication>

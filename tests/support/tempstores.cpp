@@ -1,4 +1,4 @@
-#include "tempstores.h"
+#include "support/tempstores.h"
 
 #include <QDir>
 #include <QFile>

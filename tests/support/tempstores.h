@@ -1,9 +1,9 @@
 #pragma once
 
-#include "codecmanager.h"
-#include "contentssettings.h"
-#include "licensemodel.h"
-#include "streamingmanager.h"
+#include "records/contentssettings.h"
+#include "records/licensemodel.h"
+#include "stores/codecmanager.h"
+#include "stores/streamingmanager.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "codecpreset.h"
-#include "messagebox.h"
+#include "records/codecpreset.h"
+#include "widgets/messagebox.h"
 
 #include <QComboBox>
 #include <QCoreApplication>

@@ -1,9 +1,9 @@
 // A host that finds the installed library with find_package and uses its exported classes.
-#include "codecmanager.h"
-#include "memoryoutputinterface.h"
-#include "recordingsetup.h"
-#include "streamingmanager.h"
-#include "streamingsetup.h"
+#include "interface/memoryoutputinterface.h"
+#include "recording/recordingsetup.h"
+#include "setup/streamingsetup.h"
+#include "stores/codecmanager.h"
+#include "stores/streamingmanager.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

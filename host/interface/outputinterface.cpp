@@ -1,3 +1,3 @@
-#include "outputinterface.h"
+#include "interface/outputinterface.h"
 
 OutputInterface::~OutputInterface() = default;

@@ -1,4 +1,4 @@
-#include "memoryoutputinterface.h"
+#include "interface/memoryoutputinterface.h"
 
 MemoryOutputInterface::MemoryOutputInterface(const QJsonObject& settings, QObject* parent)
     : QObject(parent), m_settings(settings)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "memoryoutputinterface.h"
+#include "interface/memoryoutputinterface.h"
 
 // The setup object kept in a JSON file, rewritten crash-safe after every change.
 // A file that does not parse is moved aside and the host starts from an empty object;

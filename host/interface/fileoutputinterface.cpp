@@ -1,4 +1,4 @@
-#include "fileoutputinterface.h"
+#include "interface/fileoutputinterface.h"
 
 #include <QDateTime>
 #include <QDir>

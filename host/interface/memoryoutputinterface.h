@@ -1,7 +1,7 @@
 #pragma once
 
-#include "codecpreset.h"
-#include "outputinterface.h"
+#include "interface/outputinterface.h"
+#include "records/codecpreset.h"
 
 #include <QList>
 #include <QObject>
