@@ -95,7 +95,6 @@ class TestBandwidthWidget : public QObject
 private slots:
     void cleanup() { QVERIFY(QThreadPool::globalInstance()->waitForDone(10000)); }
 
-    void progressAndBestRules();
     void measure_data();
     void measure();
     void tieKeepsEarlierServer();
@@ -112,20 +111,6 @@ private:
 
     FakeView m_view;
 };
-
-void TestBandwidthWidget::progressAndBestRules()
-{
-    // Rounded half up and clamped; no servers is 0 %.
-    const auto progress = &BandwidthProbe::progress;
-    QCOMPARE(QList<int>({progress(1, 3), progress(2, 3), progress(45, 45), progress(1, 8), progress(0, 0),
-                         progress(5, 4)}),
-             QList<int>({33, 67, 100, 13, 0, 100}));
-    // Only a strictly faster time replaces the best, and nothing at or above the start value.
-    const auto better = &BandwidthProbe::isBetter;
-    const qint64 start = BandwidthProbe::initialBest;
-    QCOMPARE(QList<bool>({better(10, 11), better(11, 11), better(12, 11), better(9999, start), better(10000, start)}),
-             QList<bool>({true, false, false, true, false}));
-}
 
 TestBandwidthWidget::Run TestBandwidthWidget::run(const QList<LabelPair>& servers)
 {
@@ -165,6 +150,8 @@ void TestBandwidthWidget::measure_data()
         << QStringList{"A 67"} << QStringList{"A"};
     QTest::newRow("port 80 is tested on 1935") << QList<LabelPair>{server("Port 80", 8, "80")} << QList<int>{8} << 0
                                                << 0 << QStringList{"Port 80 100"} << QStringList{"Port 80"};
+    QTest::newRow("a bare host is tested on 1935") << QList<LabelPair>{{"Bare", "127.19.35.17"}} << QList<int>{17}
+                                                   << 0 << 0 << QStringList{"Bare 100"} << QStringList{"Bare"};
     QTest::newRow("all unreachable names no server")
         << QList<LabelPair>{server("One", 9), server("Two", 10), {"Broken", "not a url"}} << QList<int>{} << 0 << 0
         << QStringList{} << QStringList{};
