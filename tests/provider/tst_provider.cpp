@@ -1,8 +1,10 @@
 #include "provider/custom.h"
+#include "provider/serviceconfig.h"
 #include "provider/simpleprovider.h"
 #include "support/servicefixture.h"
 
 #include <QJsonDocument>
+#include <QSettings>
 #include <QNetworkReply>
 #include <QtTest>
 
@@ -38,138 +40,163 @@ private slots:
         QStandardPaths::setTestModeEnabled(true);
         QCoreApplication::setApplicationName("tst_provider");
     }
-    void parseError_data();
-    void parseError();
-    void requestHelpers_data();
-    void requestHelpers();
-    void noManagerOrNoServerGivesEmptyObject();
-    void findChannelReturnsTheEntry();
-    void providersWithoutApiSendNothing();
-};
+    void parseError_data()
+    {
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<QString>("lastError"); // empty: no error, the earlier text stays
 
-void TestProvider::parseError_data()
-{
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<QString>("lastError"); // empty: no error, the earlier text stays
-
-    const auto row = [](const char* reply, const char* lastError) { QTest::newRow(reply) << QByteArray(reply) << lastError; };
-    row(R"({"error":"X","error_description":"Y"})", "tag,X\nY");
-    row(R"({"error":"invalid_grant"})", "tag,invalid_grant\n");
-    row(R"({"error_description":"Y"})", "tag,\nY");
-    row(R"({"error_msg":"M"})", "tag,\nM");
-    row(R"({"error":"X","error_msg":"M"})", "tag,X\n");
-    row(R"({"error":{"message":"inner"},"error_msg":"M"})", "tag,\nM");
-    row(R"({"error":{"error_description":"D","message":"M"}})", "tag,D");
-    row(R"({"error":{"error_description":"","message":"M"}})", "tag,M");
-    row(R"({"error":{}})", "");
-    row("{}", "");
-    row(R"({"error":{"message":42}})", "");
-    row(R"({"error":401})", "");
-    row(R"({"access_token":"abc","error_count":0})", "");
-}
-
-void TestProvider::parseError()
-{
-    QFETCH(QByteArray, reply);
-    QFETCH(QString, lastError);
-    OpenProvider provider(nullptr, "Test");
-    provider.setLastError("earlier", "unchanged");
-    QCOMPARE(provider.parseError(object(reply), "tag"), !lastError.isEmpty());
-    QCOMPARE(provider.lastError(), lastError.isEmpty() ? QStringLiteral("earlier,unchanged") : lastError);
-}
-
-void TestProvider::requestHelpers_data()
-{
-    QTest::addColumn<QByteArray>("method");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<QByteArray>("expected");
-
-    const QByteArray item = R"({"id":"7","list":[1,2]})";
-    for (const char* method : {"GET", "DELETE", "POST", "PUT"})
-        QTest::newRow(method) << QByteArray(method) << 200 << item << item;
-    const QByteArray error = R"({"error":"invalid_token"})";
-    QTest::newRow("error status keeps its JSON") << QByteArray("GET") << 401 << error << error;
-    QTest::newRow("not JSON") << QByteArray("GET") << 200 << QByteArray("<html>gateway</html>") << QByteArray("{}");
-    QTest::newRow("truncated") << QByteArray("GET") << 200 << QByteArray(R"({"id":"1",)") << QByteArray("{}");
-    QTest::newRow("megabytes") << QByteArray("GET") << 200 << QByteArray(4 << 20, 'x') << QByteArray("{}");
-}
-
-void TestProvider::requestHelpers()
-{
-    QFETCH(QByteArray, method);
-    QFETCH(int, status);
-    QFETCH(QByteArray, reply);
-    QFETCH(QByteArray, expected);
-    HttpServer server;
-    FakeView view;
-    server.onJson(method, "/items/7", reply, status);
-    OpenProvider provider(&view, "Test");
-    QNetworkRequest request(QUrl(server.baseUrl() + "/items/7?x=1&y=two"));
-    request.setRawHeader("Authorization", "Bearer tok");
-    const QByteArray body = method == "POST" || method == "PUT" ? "a=1&b=two" : "";
-    const QJsonObject answer = method == "GET"      ? provider.get(request)
-                               : method == "DELETE" ? provider.deleteResource(request)
-                               : method == "POST"   ? provider.post(request, body)
-                                                    : provider.put(request, body);
-    QCOMPARE(answer, object(expected));
-    QCOMPARE(server.requests().size(), 1);
-    const HttpServer::Request& seen = server.requests().first();
-    QCOMPARE(seen.method + ' ' + seen.target + ' ' + seen.header("Authorization") + ' ' + seen.body,
-             method + " /items/7?x=1&y=two Bearer tok " + body);
-    // The finished reply is released once control returns to the event loop.
-    QTRY_VERIFY(view.networkAccessManager()->findChildren<QNetworkReply*>().isEmpty());
-}
-
-void TestProvider::noManagerOrNoServerGivesEmptyObject()
-{
-    auto server = std::make_unique<HttpServer>();
-    const QUrl url(server->baseUrl());
-    QVERIFY(OpenProvider(nullptr, "Test").get(QNetworkRequest(url)).isEmpty());
-    FakeView view;
-    view.resetManager();
-    QVERIFY(OpenProvider(&view, "Test").post(QNetworkRequest(url), "a=b").isEmpty());
-    QVERIFY(server->requests().isEmpty());
-    // A refused connection ends like a missing reply.
-    server.reset();
-    FakeView other;
-    QVERIFY(OpenProvider(&other, "Test").get(QNetworkRequest(url)).isEmpty());
-}
-
-void TestProvider::findChannelReturnsTheEntry()
-{
-    OpenProvider provider(nullptr, "Base");
-    LiveChannel other, first, second;
-    other.name = "Other";
-    first.name = second.name = "Show";
-    first.id = "1";
-    provider.setChannels({other, first, second});
-    LiveChannel* found = provider.findChannel("Show");
-    QVERIFY(found && found->id == "1");
-    found->streamKey = "changed"; // the entry itself, not a copy
-    QCOMPARE(provider.channels().at(1).streamKey, QStringLiteral("changed"));
-    QVERIFY(!provider.findChannel("show"));
-}
-
-
-
-void TestProvider::providersWithoutApiSendNothing()
-{
-    ServiceFixture f;
-    Custom custom(&f.view);
-    SimpleProvider simple(&f.view, 3601, "Restream", QUrl(), "rtmps://live.test:443/app", {});
-    QCOMPARE(simple.streamUrl(), QStringLiteral("rtmps://live.test:443/app"));
-    for (Provider* provider : {static_cast<Provider*>(&custom), static_cast<Provider*>(&simple)}) {
-        // Every operation succeeds without asking anything of the service or the view.
-        QVERIFY(provider->login("user", "pw") && provider->authorize(QUrl())
-                && provider->authorize(QUrl("http://localhost/oauth2callback?code=1")) && provider->loadChannels()
-                && provider->createEvent(EventInfo(), LiveChannel()) && provider->updateEvent(EventInfo(), LiveChannel())
-                && provider->deleteEvent(LiveChannel()) && provider->revoke());
-        QCOMPARE(provider->username() + ':' + provider->password(), QStringLiteral("user:pw"));
-        QVERIFY(!provider->isAuthorized() && !provider->isLoggedIn());
+        const auto row = [](const char* reply, const char* lastError) { QTest::newRow(reply) << QByteArray(reply) << lastError; };
+        row(R"({"error":"X","error_description":"Y"})", "tag,X\nY");
+        row(R"({"error_description":"Y"})", "tag,\nY");
+        row(R"({"error_msg":"M"})", "tag,\nM");
+        row(R"({"error":"X","error_msg":"M"})", "tag,X\n");
+        row(R"({"error":{"message":"inner"},"error_msg":"M"})", "tag,\nM");
+        row(R"({"error":{"error_description":"D","message":"M"}})", "tag,D");
+        row(R"({"error":{}})", "");
+        row("{}", "");
+        row(R"({"error":{"message":42}})", "");
+        row(R"({"access_token":"abc","error_count":0})", "");
     }
-    QVERIFY(f.view.openedUrls.isEmpty() && f.view.messages.isEmpty() && f.server.requests().isEmpty());
-}
+    void parseError()
+    {
+        QFETCH(QByteArray, reply);
+        QFETCH(QString, lastError);
+        OpenProvider provider(nullptr, "Test");
+        provider.setLastError("earlier", "unchanged");
+        QCOMPARE(provider.parseError(object(reply), "tag"), !lastError.isEmpty());
+        QCOMPARE(provider.lastError(), lastError.isEmpty() ? QStringLiteral("earlier,unchanged") : lastError);
+    }
+    void requestHelpers_data()
+    {
+        QTest::addColumn<QByteArray>("method");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<QByteArray>("expected");
+
+        const QByteArray item = R"({"id":"7","list":[1,2]})";
+        for (const char* method : {"GET", "DELETE", "POST", "PUT"})
+            QTest::newRow(method) << QByteArray(method) << 200 << item << item;
+        const QByteArray error = R"({"error":"invalid_token"})";
+        QTest::newRow("error status keeps its JSON") << QByteArray("GET") << 401 << error << error;
+        QTest::newRow("not JSON") << QByteArray("GET") << 200 << QByteArray("<html>gateway</html>") << QByteArray("{}");
+        QTest::newRow("megabytes") << QByteArray("GET") << 200 << QByteArray(4 << 20, 'x') << QByteArray("{}");
+    }
+    void requestHelpers()
+    {
+        QFETCH(QByteArray, method);
+        QFETCH(int, status);
+        QFETCH(QByteArray, reply);
+        QFETCH(QByteArray, expected);
+        HttpServer server;
+        FakeView view;
+        server.onJson(method, "/items/7", reply, status);
+        OpenProvider provider(&view, "Test");
+        QNetworkRequest request(QUrl(server.baseUrl() + "/items/7?x=1&y=two"));
+        request.setRawHeader("Authorization", "Bearer tok");
+        const QByteArray body = method == "POST" || method == "PUT" ? "a=1&b=two" : "";
+        const QJsonObject answer = method == "GET"      ? provider.get(request)
+                                   : method == "DELETE" ? provider.deleteResource(request)
+                                   : method == "POST"   ? provider.post(request, body)
+                                                        : provider.put(request, body);
+        QCOMPARE(answer, object(expected));
+        QCOMPARE(server.requests().size(), 1);
+        const HttpServer::Request& seen = server.requests().first();
+        QCOMPARE(seen.method + ' ' + seen.target + ' ' + seen.header("Authorization") + ' ' + seen.body,
+                 method + " /items/7?x=1&y=two Bearer tok " + body);
+        // The finished reply is released once control returns to the event loop.
+        QTRY_VERIFY(view.networkAccessManager()->findChildren<QNetworkReply*>().isEmpty());
+    }
+    void noManagerOrNoServerGivesEmptyObject()
+    {
+        auto server = std::make_unique<HttpServer>();
+        const QUrl url(server->baseUrl());
+        QVERIFY(OpenProvider(nullptr, "Test").get(QNetworkRequest(url)).isEmpty());
+        FakeView view;
+        view.resetManager();
+        QVERIFY(OpenProvider(&view, "Test").post(QNetworkRequest(url), "a=b").isEmpty());
+        QVERIFY(server->requests().isEmpty());
+        // A refused connection ends like a missing reply.
+        server.reset();
+        FakeView other;
+        QVERIFY(OpenProvider(&other, "Test").get(QNetworkRequest(url)).isEmpty());
+    }
+    void findChannelReturnsTheEntry()
+    {
+        OpenProvider provider(nullptr, "Base");
+        LiveChannel other, first, second;
+        other.name = "Other";
+        first.name = second.name = "Show";
+        first.id = "1";
+        provider.setChannels({other, first, second});
+        LiveChannel* found = provider.findChannel("Show");
+        QVERIFY(found && found->id == "1");
+        found->streamKey = "changed"; // the entry itself, not a copy
+        QCOMPARE(provider.channels().at(1).streamKey, QStringLiteral("changed"));
+        QVERIFY(!provider.findChannel("show"));
+    }
+    void providersWithoutApiSendNothing()
+    {
+        ServiceFixture f;
+        Custom custom(&f.view);
+        SimpleProvider simple(&f.view, 3601, "Restream", QUrl(), "rtmps://live.test:443/app", {});
+        QCOMPARE(simple.streamUrl(), QStringLiteral("rtmps://live.test:443/app"));
+        for (Provider* provider : {static_cast<Provider*>(&custom), static_cast<Provider*>(&simple)}) {
+            // Every operation succeeds without asking anything of the service or the view.
+            QVERIFY(provider->login("user", "pw") && provider->authorize(QUrl())
+                    && provider->authorize(QUrl("http://localhost/oauth2callback?code=1")) && provider->loadChannels()
+                    && provider->createEvent(EventInfo(), LiveChannel()) && provider->updateEvent(EventInfo(), LiveChannel())
+                    && provider->deleteEvent(LiveChannel()) && provider->revoke());
+            QCOMPARE(provider->username() + ':' + provider->password(), QStringLiteral("user:pw"));
+            QVERIFY(!provider->isAuthorized() && !provider->isLoggedIn());
+        }
+        QVERIFY(f.view.openedUrls.isEmpty() && f.view.messages.isEmpty() && f.server.requests().isEmpty());
+    }
+
+    void onlyCredentialsAndTablesLackADefault()
+    {
+        QSet<QString> names;
+        for (int index = 0; index < ServiceConfig::KeyCount; ++index) {
+            const auto key = static_cast<ServiceConfig::Key>(index);
+            const QString name = ServiceConfig::keyName(key);
+            QVERIFY2(name.contains('.') && !names.contains(name), qPrintable(name));
+            names.insert(name);
+            // No registered client id or secret is built in; every host is. An ingest table
+            // override is empty unless a deployment replaces the built-in table.
+            const bool empty = name.endsWith(".clientid") || name.endsWith(".clientsecret") || name.endsWith(".servers");
+            QVERIFY2(ServiceConfig::defaultValue(key).isEmpty() == empty, qPrintable(name));
+        }
+    }
+
+    void environmentBeforeSettingsBeforeDefault()
+    {
+        ServiceEnvironment::reset();
+        const auto key = ServiceConfig::DailyMotionApi;
+        QCOMPARE(ServiceConfig::settingsKey(key), QStringLiteral("ql.service.dailymotion.api"));
+        QSettings().setValue(ServiceConfig::settingsKey(key), "http://127.0.0.1:9001");
+        QCOMPARE(ServiceConfig::value(key), QStringLiteral("http://127.0.0.1:9001"));
+        qputenv("QUILLON_DAILYMOTION_API", "http://127.0.0.1:9002");
+        QCOMPARE(ServiceConfig::value(key), QStringLiteral("http://127.0.0.1:9002"));
+        // An empty variable still overrides: it is how a deployment switches a value off.
+        qputenv("QUILLON_DAILYMOTION_API", "");
+        QCOMPARE(ServiceConfig::value(key), QString());
+        qunsetenv("QUILLON_DAILYMOTION_API");
+        QSettings().remove(ServiceConfig::settingsKey(key));
+        QCOMPARE(ServiceConfig::value(key), QStringLiteral("https://api.dailymotion.com"));
+    }
+
+    void urlJoinsHostAndPath()
+    {
+        const QString plain = "http://127.0.0.1:8080/videos?";
+        const QList<QPair<QByteArray, QString>> hosts{{"http://127.0.0.1:8080", plain},
+                                                      {"http://127.0.0.1:8080/", plain},
+                                                      {"http://127.0.0.1:8080/api/", "http://127.0.0.1:8080/api/videos?"}};
+        for (const auto& [host, url] : hosts) {
+            qputenv("QUILLON_HITBOX_API", host);
+            QCOMPARE(ServiceConfig::url(ServiceConfig::HitboxApi, "/videos?").toString(), url);
+        }
+        qunsetenv("QUILLON_HITBOX_API");
+    }
+};
 
 QTEST_MAIN(TestProvider)
 #include "tst_provider.moc"

@@ -232,88 +232,70 @@ private slots:
         QCOMPARE(provider->events().size(), channels.size());
     }
 
-    void failures_data();
-    void failures();
+    void failures_data()
+    {
+        QTest::addColumn<QString>("service");
+        QTest::addColumn<QString>("operation");
+        QTest::addColumn<QString>("route"); // the request that fails, and the last one sent
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<QString>("lastError"); // a tag alone: the reply could not be read
+
+        QString service;
+        const auto row = [&](const char* name, const char* operation, const QString& route, const QByteArray& reply,
+                             const char* lastError) {
+            QTest::newRow(qPrintable(service + ": " + name)) << service << operation << route << reply << lastError;
+        };
+        service = "UStream";
+        const char *token = "POST /oauth2/token", *channels = "GET /users/self/channels.json";
+        row("wrong password", "login", token, R"({"error":"bad","error_description":"D"})", "authorizeObj,bad\nD");
+        row("token missing", "login", token, R"({"token_type":"x"})", "authorizeObj");
+        row("channels error", "login", channels, R"({"error":{"message":"M"}})", "channelsObj,M");
+        row("channel without id", "login", channels, R"({"channels":{"11":{"title":"x"}}})", "channelsObj");
+        row("key error", "login", "GET " + ustreamKey11, R"({"error":"E","error_description":"D"})", "streamKeyObj,E\nD");
+        service = "Hitbox";
+        const char *login = "POST /auth/login";
+        row("wrong password", "login", login, R"({"error_msg":"auth_failed"})", "authorizeObj,\nauth_failed");
+        row("token missing", "login", login, R"({"success":true})", "authorizeObj");
+        row("ingests missing", "login", "GET /ingests/default_list", "{}", "serverArray");
+        row("media key error", "login", "GET /mediakey/kai", R"({"error":"E","error_description":"D"})", "streamKeyObj,E\nD");
+        service = "DailyMotion";
+        const char *code = "POST /oauth/token", *videos = "GET /user/uid1/videos";
+        row("token refused", "authorize", code, R"({"error":"E","error_description":"D"})", "authorize,E\nD");
+        row("no token", "authorize", code, R"({"uid":"uid1"})", "authorize");
+        row("videos error", "load", videos, R"({"error":{"code":403,"message":"M"}})", "channelObj,M");
+        row("video id is a number", "load", videos, R"({"list":[{"id":7}]})", "channelObj");
+        row("publish error", "load", "GET /video/x1", R"({"error_msg":"not live"})", "streamKeyObj,\nnot live");
+        row("categories error", "load", "GET /channels", R"({"error":"E","error_description":"D"})", "categoryObj,E\nD");
+        row("create refused", "create", "POST /videos", R"({"error":{"message":"M"}})", "createObj,M");
+        row("created video has no address", "create", "GET /video/x9", R"({"error_msg":"gone"})", "streamKeyObj,\ngone");
+        row("update refused", "update", "POST /video/x1", R"({"error":{"message":"M"}})", "updateVideo,M");
+        row("delete refused", "delete", "DELETE /video/x1", R"({"error":{"message":"M"}})", "deleteStream,M");
+    }
+    void failures()
+    {
+        QFETCH(QString, service);
+        QFETCH(QString, operation);
+        QFETCH(QString, route);
+        QFETCH(QByteArray, reply);
+        QFETCH(QString, lastError);
+
+        ServiceFixture f;
+        serveAccounts(f);
+        f.serve({{route, reply}});
+        auto provider = make(f, service);
+        LiveChannel stale;
+        stale.name = "stale";
+        provider->setChannels({stale});
+        QVERIFY(!run(*provider, operation));
+        QCOMPARE(provider->lastError(), expectedError(lastError));
+        QVERIFY(!provider->isLoggedIn());
+        // What was listed before is gone once the list is read again.
+        if (operation == "login" || operation == "load")
+            QVERIFY(provider->channels().isEmpty());
+        // Nothing is asked after the request that failed.
+        QVERIFY(f.requestLines().last().startsWith(route));
+    }
 };
-
-void TestServices::failures_data()
-{
-    QTest::addColumn<QString>("service");
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<QString>("route"); // the request that fails, and the last one sent
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<QString>("lastError"); // a tag alone: the reply could not be read
-
-    QString service;
-    const auto row = [&](const char* name, const char* operation, const QString& route, const QByteArray& reply,
-                         const char* lastError) {
-        QTest::newRow(qPrintable(service + ": " + name)) << service << operation << route << reply << lastError;
-    };
-    service = "UStream";
-    const char *token = "POST /oauth2/token", *channels = "GET /users/self/channels.json";
-    const QString key = "GET " + ustreamKey11;
-    row("wrong password", "login", token, R"({"error":"invalid_grant","error_description":"Bad credentials"})",
-        "authorizeObj,invalid_grant\nBad credentials");
-    row("token missing", "login", token, R"({"token_type":"x"})", "authorizeObj");
-    row("channels error", "login", channels, R"({"error":{"message":"token expired"}})",
-        "channelsObj,token expired");
-    row("channel without id", "login", channels, R"({"channels":{"11":{"title":"x"}}})", "channelsObj");
-    row("key error", "login", key, R"({"error":"forbidden","error_description":"not a broadcaster"})",
-        "streamKeyObj,forbidden\nnot a broadcaster");
-
-    service = "Hitbox";
-    const char *login = "POST /auth/login", *ingests = "GET /ingests/default_list", *mediaKey = "GET /mediakey/kai";
-    row("wrong password", "login", login, R"({"error_msg":"auth_failed"})", "authorizeObj,\nauth_failed");
-    row("token missing", "login", login, R"({"success":true})", "authorizeObj");
-    row("ingests missing", "login", ingests, "{}", "serverArray");
-    row("media key error", "login", mediaKey, R"({"error":"X","error_description":"no key"})",
-        "streamKeyObj,X\nno key");
-
-    service = "DailyMotion";
-    const char *code = "POST /oauth/token", *videos = "GET /user/uid1/videos", *categories = "GET /channels";
-    row("token refused", "authorize", code, R"({"error":"invalid_grant","error_description":"Expired"})",
-        "authorize,invalid_grant\nExpired");
-    row("no token", "authorize", code, R"({"uid":"uid1"})", "authorize");
-    row("videos error", "load", videos, R"({"error":{"code":403,"message":"Insufficient scope"}})",
-        "channelObj,Insufficient scope");
-    row("video id is a number", "load", videos, R"({"list":[{"id":7}]})", "channelObj");
-    row("publish error", "load", "GET /video/x1", R"({"error_msg":"not live"})", "streamKeyObj,\nnot live");
-    row("categories error", "load", categories, R"({"error":"down","error_description":"later"})",
-        "categoryObj,down\nlater");
-    row("create refused", "create", "POST /videos", R"({"error":{"message":"Quota exceeded"}})",
-        "createObj,Quota exceeded");
-    row("created video has no address", "create", "GET /video/x9", R"({"error_msg":"gone"})",
-        "streamKeyObj,\ngone");
-    row("update refused", "update", "POST /video/x1", R"({"error":"forbidden","error_description":"no"})",
-        "updateVideo,forbidden\nno");
-    row("delete refused", "delete", "DELETE /video/x1", R"({"error":{"message":"Not found"}})",
-        "deleteStream,Not found");
-}
-
-void TestServices::failures()
-{
-    QFETCH(QString, service);
-    QFETCH(QString, operation);
-    QFETCH(QString, route);
-    QFETCH(QByteArray, reply);
-    QFETCH(QString, lastError);
-
-    ServiceFixture f;
-    serveAccounts(f);
-    f.serve({{route, reply}});
-    auto provider = make(f, service);
-    LiveChannel stale;
-    stale.name = "stale";
-    provider->setChannels({stale});
-    QVERIFY(!run(*provider, operation));
-    QCOMPARE(provider->lastError(), expectedError(lastError));
-    QVERIFY(!provider->isLoggedIn());
-    // What was listed before is gone once the list is read again.
-    if (operation == "login" || operation == "load")
-        QVERIFY(provider->channels().isEmpty());
-    // Nothing is asked after the request that failed.
-    QVERIFY(f.requestLines().last().startsWith(route));
-}
 
 QTEST_MAIN(TestServices)
 #include "tst_services.moc"

@@ -77,7 +77,7 @@ class TestEventDialog : public QObject
 {
     Q_OBJECT
 private slots:
-    void freshFormAndTitleRule()
+    void freshForm()
     {
         Form form;
         QCOMPARE(form.rows(), QStringLiteral("11111111"));
@@ -91,11 +91,7 @@ private slots:
         QVERIFY(!form.ok()->isEnabled());
         QTest::keyClicks(title, "S");
         QVERIFY(form.ok()->isEnabled());
-    }
-
-    void continuousStreamExplainsItself()
-    {
-        Form form;
+        // The continuous stream type explains itself.
         auto* types = form.get<QComboBox>("streamtype");
         auto* info = form.get<QLabel>("fbinfo");
         types->setCurrentIndex(1);
