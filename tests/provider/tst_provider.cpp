@@ -1,4 +1,5 @@
 #include "provider/custom.h"
+#include "provider/savedaccount.h"
 #include "provider/serviceconfig.h"
 #include "provider/simpleprovider.h"
 #include "support/servicefixture.h"
@@ -195,6 +196,36 @@ private slots:
             QCOMPARE(ServiceConfig::url(ServiceConfig::HitboxApi, "/videos?").toString(), url);
         }
         qunsetenv("QUILLON_HITBOX_API");
+    }
+
+    void savedAccountComesBackWhole()
+    {
+        OpenProvider signedIn(nullptr, "Service");
+        signedIn.setAccessToken("tok");
+        signedIn.setRefreshToken("ref");
+        signedIn.setUserId("u1");
+        signedIn.setStreamKey("key");
+        signedIn.setPageToken("pt");
+        LiveChannel channel;
+        channel.name = "Show";
+        channel.ownerToken = "owner";
+        channel.flags = LiveChannel::LiveNow;
+        signedIn.setChannels({channel});
+        signedIn.setPages({{"page-token", "7", "Page"}});
+        signedIn.setEvents({EventInfo{"e1", "Show", "d", "SELF", "2025-01-01T10:00:00.000Z", "", "t", "25", "REGULAR"}});
+        signedIn.setServers({{"EU", "rtmp://127.0.0.1/live"}});
+        OpenProvider restored(nullptr, "Service");
+        SavedAccount::apply(SavedAccount::toServerInfo(signedIn), &restored);
+        QCOMPARE(SavedAccount::toServerInfo(restored).details, SavedAccount::toServerInfo(signedIn).details);
+        QCOMPARE(restored.accessToken() + restored.refreshToken() + restored.userId() + restored.streamKey(),
+                 QStringLiteral("tokrefu1key"));
+        // A damaged file gives back what it can, and nothing of the wrong shape.
+        ServerInfo damaged;
+        damaged.details = object(R"({"Channels":[1,"x",{"Name":7}],"Pages":{},"Servers":[["only"]],"LoggedIn":"yes"})");
+        SavedAccount::apply(damaged, &restored);
+        QCOMPARE(restored.channels().size(), 1);
+        QVERIFY(restored.channels().first().name.isEmpty() && restored.pages().isEmpty());
+        QVERIFY(restored.servers().isEmpty() && !restored.isLoggedIn() && restored.accessToken().isEmpty());
     }
 };
 
