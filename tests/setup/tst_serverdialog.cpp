@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
 namespace {
 // The dialog as the operator sees it, on screen unless said otherwise.
@@ -118,6 +119,8 @@ private slots:
         form.type("streamUrlInput", "srt://10.0.0.5:9000");
         form.get<QComboBox>("srtMode")->setCurrentText("caller");
         form.type("srtStreamID", "cam1");
+        form.get<QToolButton>("showPassword")->click(); // the passphrase shows until clicked again
+        QCOMPARE(form.get<QLineEdit>("srtPassphrase")->echoMode(), QLineEdit::Normal);
         for (const QString mode : {"listener", "caller"}) {
             form.get<QComboBox>("srtMode")->setCurrentText(mode);
             QCOMPARE(form.get("srtStreamID")->isVisibleTo(&form.dialog), mode == "caller");
@@ -130,6 +133,8 @@ private slots:
     {
         Form form;
         form.type("streamUrlInput", "rtmp://ingest.example/live");
+        form.get<QToolButton>("showStreamKey")->click();
+        QCOMPARE(form.get<QLineEdit>("streamKeyInput")->echoMode(), QLineEdit::Normal);
         auto* useAuth = form.get<QCheckBox>("useAuth");
         QTest::mouseClick(useAuth, Qt::LeftButton, Qt::NoModifier, QPoint(4, useAuth->height() / 2));
         QCOMPARE(form.groups(), QStringLiteral("1110"));
