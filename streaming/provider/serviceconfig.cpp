@@ -50,7 +50,7 @@ const Entry entries[] = {
     {"hitbox.api", "https://api.smashcast.tv"},
     {"hitbox.ingest", "rtmp://live.smashcast.tv"},
     {"hitbox.revokeapi", "https://api.smashcast.tv"},
-    {"facebook.ingest", "rtmps://live-api-s.facebook.com:443/rtmp/"},
+    {"facebook.ingest", "rtmps://live-api-s.facebook.com:443/rtmp"},
     {"twitter.home", "https://twitter.com"},
     {"mixer.home", "https://mixer.com"},
     {"restream.home", "https://restream.io"},

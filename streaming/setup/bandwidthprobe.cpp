@@ -1,9 +1,10 @@
 #include "setup/bandwidthprobe.h"
 
+#include "setup/ingestaddress.h"
+
 #include <QElapsedTimer>
 #include <QLoggingCategory>
 #include <QTcpSocket>
-#include <QUrl>
 
 #include <cmath>
 
@@ -26,7 +27,7 @@ void BandwidthProbe::run()
         if (m_stopped)
             return;
         const LabelPair& server = m_servers.at(index);
-        const QString host = QUrl(server.second).host();
+        const QString host = IngestAddress::host(server.second);
         QElapsedTimer timer;
         timer.start();
         QTcpSocket socket;

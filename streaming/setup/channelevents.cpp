@@ -13,6 +13,20 @@ LiveChannel channelAt(const Provider* provider, int index)
     return index >= 0 && index < channels.size() ? channels.at(index) : LiveChannel();
 }
 
+// The event behind a channel as the service listed it, or what the channel itself says.
+EventInfo eventOf(const Provider* provider, const LiveChannel& channel)
+{
+    for (const EventInfo& event : provider->events())
+        if (event.id == channel.id)
+            return event;
+    EventInfo event;
+    event.id = channel.id;
+    event.title = channel.name;
+    event.description = channel.description;
+    event.category = channel.category;
+    return event;
+}
+
 bool validIndex(const Provider* provider, int index)
 {
     return provider && index >= 0 && index < provider->channels().size();
@@ -36,12 +50,13 @@ ChannelEvents::Result ChannelEvents::edit(QWidget* parent, Provider* provider, i
 {
     if (!validIndex(provider, channelIndex))
         return Result::Cancelled;
+    const LiveChannel channel = channelAt(provider, channelIndex);
     EventDialog dialog(parent);
     dialog.enableUi(provider, true);
+    dialog.setEvent(eventOf(provider, channel));
     if (dialog.exec() != QDialog::Accepted)
         return Result::Cancelled;
-    return provider->updateEvent(dialog.eventInfo(), channelAt(provider, channelIndex)) ? Result::Done
-                                                                                        : Result::Failed;
+    return provider->updateEvent(dialog.eventInfo(), channel) ? Result::Done : Result::Failed;
 }
 
 ChannelEvents::Result ChannelEvents::remove(QWidget* parent, Provider* provider, int channelIndex)

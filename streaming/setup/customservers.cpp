@@ -9,7 +9,6 @@
 #include <QComboBox>
 #include <QSignalBlocker>
 
-#include <algorithm>
 
 CustomServers::CustomServers(QComboBox* list)
     : m_list(list)
@@ -25,12 +24,9 @@ void CustomServers::fill()
         return;
     }
     manager->reloadPresets();
-    QList<ServerInfo> servers = manager->serverInfos();
-    std::stable_sort(servers.begin(), servers.end(), [](const ServerInfo& a, const ServerInfo& b) {
-        return a.channel.title.localeAwareCompare(b.channel.title) < 0;
-    });
+    // The store's order: the one-pass unique title rule depends on it.
     const QSignalBlocker blocker(m_list);
-    for (const ServerInfo& server : qAsConst(servers)) {
+    for (const ServerInfo& server : manager->serverInfos()) {
         m_list->addItem(server.channel.title);
         setItem(m_list->count() - 1, server.channel, server.oauth);
     }

@@ -21,7 +21,7 @@ class CustomServers
 public:
     explicit CustomServers(QComboBox* list);
 
-    // Lists the stored servers, by title.
+    // Lists the stored servers, in the store's order.
     void fill();
     // Opens the server dialog empty; true when a server was added (and selected).
     bool add(QWidget* parent);

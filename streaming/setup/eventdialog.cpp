@@ -24,6 +24,31 @@ QDateTime utcInstant(const QDate& date, const QString& time)
                                .arg(chosen.minute(), 2, 10, QLatin1Char('0'));
     return QDateTime::fromString(text, Qt::ISODateWithMs);
 }
+
+// Shows a stored instant in the date and time controls, as UTC; false for no instant.
+// A time off the half-hour grid is added to the list, so it goes back unchanged.
+bool showInstant(const QString& text, QDateEdit* date, QComboBox* time)
+{
+    const QDateTime instant = QDateTime::fromString(text, Qt::ISODateWithMs).toUTC();
+    if (!instant.isValid())
+        return false;
+    date->setDate(instant.date());
+    const QString hhmm = instant.time().toString(QStringLiteral("hh:mm"));
+    int index = 0;
+    while (index < time->count() && time->itemText(index) < hhmm)
+        ++index;
+    if (index == time->count() || time->itemText(index) != hhmm)
+        time->insertItem(index, hhmm);
+    time->setCurrentIndex(index);
+    return true;
+}
+
+void selectData(QComboBox* list, const QString& data)
+{
+    const int index = list->findData(data);
+    if (index >= 0)
+        list->setCurrentIndex(index);
+}
 } // namespace
 
 EventDialog::EventDialog(QWidget* parent)
@@ -82,6 +107,21 @@ void EventDialog::enableUi(Provider* provider, bool update)
         ui->privacy->addItem(privacy.first, privacy.second);
     for (const LabelPair& category : provider->categories())
         ui->category->addItem(category.first, category.second);
+}
+
+void EventDialog::setEvent(const EventInfo& event)
+{
+    m_event = event;
+    ui->title->setText(event.title);
+    ui->decription->setPlainText(event.description);
+    ui->tags->setText(event.tags);
+    selectData(ui->streamtype, event.streamType);
+    const int privacy = ui->privacy->findText(event.privacy);
+    if (privacy >= 0)
+        ui->privacy->setCurrentIndex(privacy);
+    selectData(ui->category, event.category);
+    showInstant(event.startTime, ui->startDateTime, ui->startTime);
+    ui->enableEndTime->setChecked(showInstant(event.endTime, ui->endDateTime, ui->endTime));
 }
 
 const EventInfo& EventDialog::eventInfo() const

@@ -35,6 +35,9 @@ public:
     // Shows the rows the provider asks for (`update`: the dialog edits an existing
     // event) and fills privacy and category from the provider's lists.
     void enableUi(Provider* provider, bool update);
+    // Fills the form from an existing event (after enableUi), so an update starts from the
+    // service's values; its id goes back with the result.
+    void setEvent(const EventInfo& event);
     // Filled when the dialog is accepted.
     const EventInfo& eventInfo() const;
 

@@ -2,6 +2,7 @@
 
 #include "provider/provider.h"
 #include "setup/basewidget.h"
+#include "setup/ingestaddress.h"
 #include "setup/servicetables.h"
 #include "ui_basewidget.h"
 
@@ -125,10 +126,9 @@ void PanelUpdater::updateChannels(Provider* provider, bool keepSelection)
 
 void PanelUpdater::applyServer(Provider* provider)
 {
-    const QString url = m_panel->form()->serverSelect->currentData().toString();
-    // Some ingest lists name bare hosts; the channel's address then stays.
-    if (provider && url.contains(QLatin1String("://")))
-        provider->setStreamUrl(url);
+    const QString server = m_panel->form()->serverSelect->currentData().toString();
+    if (provider)
+        provider->setStreamUrl(IngestAddress::chosen(server, provider->streamUrl()));
     showTarget(provider);
 }
 
@@ -164,6 +164,35 @@ void PanelUpdater::applyCustomServer(Provider* provider)
         provider->setStreamKey(QString());
     }
     showTarget(provider);
+}
+
+void PanelUpdater::selectStored(Provider* provider, const CodecModel::Streaming& stored)
+{
+    Ui::BaseWidget* f = m_panel->form();
+    {
+        const QSignalBlocker servers(f->serverSelect);
+        const QSignalBlocker customs(f->customSelect);
+        const QSignalBlocker pages(f->pageSelect);
+        const QSignalBlocker channels(f->channelSelect);
+        f->serverSelect->setCurrentText(stored.serverName);
+        if (provider && isCustom(provider))
+            f->customSelect->setCurrentText(stored.serverName);
+        f->pageSelect->setCurrentText(stored.pageName);
+        f->channelSelect->setCurrentText(stored.channelName);
+    }
+    if (!provider)
+        return;
+    if (isCustom(provider)) {
+        applyCustomServer(provider);
+        return;
+    }
+    const int page = f->pageSelect->currentIndex();
+    if (page >= 0 && page < provider->pages().size()) {
+        provider->setPageId(provider->pages().at(page).id);
+        provider->setPageToken(provider->pages().at(page).accessToken);
+    }
+    applyChannel(provider);
+    applyServer(provider);
 }
 
 bool PanelUpdater::customServer(Channel* channel, OAuth* oauth) const

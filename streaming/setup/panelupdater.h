@@ -50,6 +50,11 @@ public:
     void applyChannel(Provider* provider);
     void applyCustomServer(Provider* provider);
 
+    // Selects a stored row's server (for "Custom" in both server lists), page and channel
+    // by text and points the provider at them. The lists stay silent, so restoring a
+    // page choice never reloads the service's channels.
+    void selectStored(Provider* provider, const CodecModel::Streaming& stored);
+
     // The streaming block a new row gets from the panel.
     CodecModel::Streaming target(const Provider* provider) const;
 

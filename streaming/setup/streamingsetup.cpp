@@ -8,6 +8,7 @@
 #include "interface/outputinterface.h"
 #include "provider/custom.h"
 #include "provider/hitbox.h"
+#include "provider/savedaccount.h"
 #include "provider/simpleprovider.h"
 #include "provider/ustream.h"
 #include "recording/encoderrows.h"
@@ -179,6 +180,12 @@ StreamingSetup::~StreamingSetup()
 
 void StreamingSetup::initializeProvider()
 {
+    // Nothing may point at the providers about to go: the service list, a running test.
+    bandwidth->stop();
+    {
+        const QSignalBlocker blocker(ui->baseWidget->form()->providerSelect);
+        ui->baseWidget->form()->providerSelect->clear();
+    }
     qDeleteAll(providers);
     providers.clear();
     m_serviceIcons.clear();
@@ -196,16 +203,24 @@ void StreamingSetup::initializeProvider()
                                                 service.streamUrl, service.servers));
             break;
         }
+        // A service the operator signed in to comes back signed in, without a request.
+        SavedAccount::restore(providers.last());
     }
+    if (m_mapper) // the panel is built already: it lists the new providers
+        fillServiceList();
 }
 
 void StreamingSetup::initializeUi()
 {
-    Ui::BaseWidget* panel = ui->baseWidget->form();
-    webDialog = new WebDialog(nullptr);
-    webDialog->setModal(true);
+    // Public, so it may run again: everything it makes exists once, every list is refilled.
+    if (!webDialog) {
+        webDialog = new WebDialog(nullptr);
+        webDialog->setModal(true);
+    }
     const ProjectPreset project = QuillonEngine::projectPreset();
     for (QComboBox* list : {ui->videoSourceList, ui->audioSourceList}) {
+        const QSignalBlocker blocker(list);
+        list->clear();
         SourceLists::addProgramme(list, project.deviceInfo().programOutputs);
         if (settings.audioBusEnabled())
             SourceLists::addBuses(list, project.processing().busAEnabled, project.processing().busBEnabled);
@@ -213,35 +228,46 @@ void StreamingSetup::initializeUi()
     ui->codecList->initialize(CodecTables::UsageStreaming, LicenseModel::usageStreaming,
                               settings.availableAudioMask());
     ui->codecList->setCodecMask(settings.availableVideoMask(), settings.availableAudioMask());
-
-    connect(ui->addPreset, &QToolButton::clicked, this, &StreamingSetup::updatePreset);
-    connect(ui->removePreset, &QToolButton::clicked, this, &StreamingSetup::updatePreset);
-    connect(ui->encoderList, &QListWidget::currentRowChanged, this, &StreamingSetup::updatePreset);
-    connect(ui->encoderList, &QListWidget::itemDoubleClicked, this, &StreamingSetup::updatePreset);
-    connect(ui->codecList, &EncoderListWidget::presetChanged, this, &StreamingSetup::updatePreset);
-    connect(bandwidth, &BandwidthWidget::bestServerChanged, panel->serverSelect, &QComboBox::setCurrentText,
-            Qt::QueuedConnection);
-    connect(ui->videoSourceList, qOverload<int>(&QComboBox::currentIndexChanged), this,
-            &StreamingSetup::videoSourceChange);
     ui->addPreset->setEnabled(ui->codecList->count() > 0);
 
-    for (Provider* provider : qAsConst(providers)) {
-        const QIcon icon = provider->icon().isNull() ? QIcon(m_serviceIcons.value(provider->name())) : QIcon(provider->icon());
-        panel->providerSelect->addItem(icon, provider->name(), QVariant::fromValue(provider));
-        if (provider->name() == ServiceTables::customName())
-            panel->providerSelect->insertSeparator(panel->providerSelect->count());
-    }
-    if (!providers.isEmpty())
-        panel->providerSelect->setCurrentText(providers.last()->name());
-
     m_customServers->fill();
-    mapPanelControls();
-    signalMapper(ServiceId);
+    if (!m_mapper) {
+        connect(ui->addPreset, &QToolButton::clicked, this, &StreamingSetup::updatePreset);
+        connect(ui->removePreset, &QToolButton::clicked, this, &StreamingSetup::updatePreset);
+        connect(ui->encoderList, &QListWidget::currentRowChanged, this, &StreamingSetup::updatePreset);
+        connect(ui->encoderList, &QListWidget::itemDoubleClicked, this, &StreamingSetup::updatePreset);
+        connect(ui->codecList, &EncoderListWidget::presetChanged, this, &StreamingSetup::updatePreset);
+        connect(bandwidth, &BandwidthWidget::bestServerChanged, ui->baseWidget->form()->serverSelect,
+                &QComboBox::setCurrentText, Qt::QueuedConnection);
+        connect(ui->videoSourceList, qOverload<int>(&QComboBox::currentIndexChanged), this,
+                &StreamingSetup::videoSourceChange);
+        mapPanelControls();
+    }
+    fillServiceList();
 
     ui->addPreset->setText(tr("Add Presets"));
     ui->addPreset->setToolTip(tr("Add Presets"));
     ui->removePreset->setText(tr("Remove Presets"));
     ui->removePreset->setToolTip(tr("Remove Presets"));
+}
+
+void StreamingSetup::fillServiceList()
+{
+    QComboBox* list = ui->baseWidget->form()->providerSelect;
+    {
+        const QSignalBlocker blocker(list);
+        list->clear();
+        for (Provider* provider : qAsConst(providers)) {
+            const QIcon icon = provider->icon().isNull() ? QIcon(m_serviceIcons.value(provider->name()))
+                                                         : QIcon(provider->icon());
+            list->addItem(icon, provider->name(), QVariant::fromValue(provider));
+            if (provider->name() == ServiceTables::customName())
+                list->insertSeparator(list->count());
+        }
+        if (!providers.isEmpty())
+            list->setCurrentText(providers.last()->name());
+    }
+    signalMapper(ServiceId);
 }
 
 void StreamingSetup::mapPanelControls()
@@ -331,6 +357,8 @@ void StreamingSetup::signalMapper(int id)
                                                                  : ChannelEvents::remove(this, current, index);
         if (result == ChannelEvents::Result::Failed)
             errorMessage();
+        else if (result == ChannelEvents::Result::Done)
+            SavedAccount::sync(*current);
         if (result != ChannelEvents::Result::Cancelled)
             updateChannelUi();
         break;
@@ -367,6 +395,7 @@ void StreamingSetup::authorizeProvider(Provider* current)
         setBusy(false);
         if (!revoked)
             errorMessage();
+        SavedAccount::sync(*current); // forgotten once the service took it back
         updateUi(true);
     } else if (usesPasswordLogin(current)) {
         AuthorizeDialog dialog(this);
@@ -377,6 +406,8 @@ void StreamingSetup::authorizeProvider(Provider* current)
         setBusy(false);
         if (!loggedIn)
             errorMessage();
+        else
+            SavedAccount::sync(*current);
         updateUi(true);
     } else if (!current->authorize(QUrl())) {
         errorMessage();
@@ -392,6 +423,8 @@ void StreamingSetup::reloadChannels(Provider* current)
     setBusy(false);
     if (!loaded)
         errorMessage();
+    else if (SavedAccount::isSignedIn(*current))
+        SavedAccount::sync(*current);
     updateChannelUi();
 }
 
@@ -492,8 +525,9 @@ void StreamingSetup::webAuthorizeUrlChange(const QUrl& url)
     if (!current->authorize(url)) {
         errorMessage();
     } else if (current->isAuthorized()) {
+        SavedAccount::sync(*current);
         enableUi();
-        updateUi(true);
+        updateUi(false);
         const bool pageService = current->name() == ServiceTables::facebookName()
                               || current->name() == ServiceTables::dailyMotionName();
         if (pageService && (!current->pages().isEmpty() || !current->channels().isEmpty()))
@@ -550,12 +584,7 @@ void StreamingSetup::applyRow(const CodecPreset& preset)
     Ui::BaseWidget* f = ui->baseWidget->form();
     const CodecModel::Streaming& s = preset.streaming();
     f->providerSelect->setCurrentText(s.provider);
-    if (s.provider == ServiceTables::customName())
-        f->customSelect->setCurrentText(s.serverName);
-    else
-        f->serverSelect->setCurrentText(s.serverName);
-    f->pageSelect->setCurrentText(s.pageName);
-    f->channelSelect->setCurrentText(s.channelName);
+    m_panel->selectStored(provider(), s);
     SourceLists::selectSource(ui->videoSourceList, preset.videoSource());
     SourceLists::selectSource(ui->audioSourceList, preset.audioSource());
     ui->codecList->selectPreset(preset);

@@ -80,6 +80,7 @@ private:
     void updateChannelUi();
     Provider* provider() const;
 
+    void fillServiceList();
     void mapPanelControls();
     void authorizeProvider(Provider* provider);
     void reloadChannels(Provider* provider);

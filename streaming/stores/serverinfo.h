@@ -3,8 +3,12 @@
 #include "stores/channel.h"
 #include "stores/oauth.h"
 
-// A saved server: its channel part followed by its account part.
+#include <QJsonObject>
+
+// A saved server: its channel part followed by its account part. A signed-in
+// service account adds what its provider needs back (lists the service gave).
 struct ServerInfo {
     Channel channel;
     OAuth oauth;
+    QJsonObject details;
 };

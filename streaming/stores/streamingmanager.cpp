@@ -3,6 +3,8 @@
 #include "stores/orderedjson.h"
 #include "stores/storefile.h"
 
+#include <QDir>
+#include <QFile>
 #include <QJsonValue>
 
 template class Singleton<StreamingManager>;
@@ -23,13 +25,25 @@ const QString latencyKey = QStringLiteral("Latency");
 const QString keyLengthKey = QStringLiteral("KeyLength");
 const QString passphraseKey = QStringLiteral("Passphrase");
 const QString streamIdKey = QStringLiteral("StreamID");
+// Account files only, after the server keys: a server of the operator's never holds a token.
+const QString providerKey = QStringLiteral("Provider");
+const QString channelIdKey = QStringLiteral("ChannelId");
+const QString descriptionKey = QStringLiteral("Description");
+const QString serverKey = QStringLiteral("Server");
+const QString pageKey = QStringLiteral("Page");
+const QString accountIdKey = QStringLiteral("AccountId");
+const QString accessTokenKey = QStringLiteral("AccessToken");
+const QString refreshTokenKey = QStringLiteral("RefreshToken");
+const QString detailsKey = QStringLiteral("Details");
+const QString accountFolder = QStringLiteral("accounts");
 
 const QHash<QString, QStringList>& fileKeyOrder()
 {
     static const QHash<QString, QStringList> order{
         {QString(),
          {titleKey, urlKey, streamKeyKey, authorizedKey, userIdKey, userPwKey, modeKey, filterKey, portKey, latencyKey,
-          keyLengthKey, passphraseKey, streamIdKey}},
+          keyLengthKey, passphraseKey, streamIdKey, providerKey, channelIdKey, descriptionKey, serverKey, pageKey,
+          accountIdKey, accessTokenKey, refreshTokenKey, detailsKey}},
     };
     return order;
 }
@@ -60,12 +74,57 @@ QString StreamingManager::serverDirectory() const
     return m_settings.serverPresetPath();
 }
 
+QString StreamingManager::accountDirectory() const
+{
+    return serverDirectory() + QLatin1Char('/') + accountFolder;
+}
+
 void StreamingManager::reloadPresets()
 {
     m_serverInfos.clear();
     StoreFile::forEachObject(serverDirectory(), [this](const QJsonObject& object) {
         m_serverInfos.append(serverInfoFromJson(object));
     });
+    m_accounts.clear();
+    StoreFile::forEachObject(accountDirectory(), [this](const QJsonObject& object) {
+        m_accounts.append(accountFromJson(object));
+    });
+}
+
+const QList<ServerInfo>& StreamingManager::accounts() const
+{
+    return m_accounts;
+}
+
+bool StreamingManager::writeAccount(const ServerInfo& account)
+{
+    const QString provider = account.oauth.provider;
+    if (provider.isEmpty())
+        return false;
+    // Tokens: the folder is the owner's alone, as each file is.
+    const QString directory = accountDirectory();
+    QDir().mkpath(directory);
+    QFile::setPermissions(directory, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    if (!StoreFile::write(StoreFile::pathFor(directory, provider),
+                          OrderedJson::indented(jsonFromAccount(account), fileKeyOrder()), StoreFile::OwnerOnly))
+        return false;
+    for (ServerInfo& kept : m_accounts) {
+        if (kept.oauth.provider == provider) {
+            kept = account;
+            return true;
+        }
+    }
+    m_accounts.append(account);
+    return true;
+}
+
+bool StreamingManager::removeAccount(const QString& provider)
+{
+    for (int i = m_accounts.size() - 1; i >= 0; --i)
+        if (m_accounts.at(i).oauth.provider == provider)
+            m_accounts.removeAt(i);
+    StoreFile::remove(StoreFile::pathFor(accountDirectory(), provider));
+    return true;
 }
 
 const QList<ServerInfo>& StreamingManager::serverInfos() const
@@ -75,7 +134,7 @@ const QList<ServerInfo>& StreamingManager::serverInfos() const
 
 bool StreamingManager::write(const Channel& channel, const OAuth& oauth)
 {
-    const ServerInfo info{channel, oauth};
+    const ServerInfo info{channel, oauth, {}};
     const QString path = StoreFile::pathFor(serverDirectory(), info.channel.title);
     // The file holds a password and a stream key.
     return StoreFile::write(path, OrderedJson::indented(jsonFromServerInfo(info), fileKeyOrder()),
@@ -124,6 +183,37 @@ QJsonObject StreamingManager::jsonFromServerInfo(const ServerInfo& info)
         {passphraseKey, info.channel.passphrase},
         {streamIdKey, info.channel.streamId},
     };
+}
+
+ServerInfo StreamingManager::accountFromJson(const QJsonObject& object)
+{
+    ServerInfo info = serverInfoFromJson(object);
+    info.channel.provider = info.oauth.provider = object.value(providerKey).toString();
+    info.channel.id = object.value(channelIdKey).toString();
+    info.channel.description = object.value(descriptionKey).toString();
+    info.channel.server = object.value(serverKey).toString();
+    info.channel.page = object.value(pageKey).toString();
+    info.oauth.id = object.value(accountIdKey).toString();
+    info.oauth.accessToken = object.value(accessTokenKey).toString();
+    info.oauth.refreshToken = object.value(refreshTokenKey).toString();
+    info.details = object.value(detailsKey).toObject();
+    return info;
+}
+
+QJsonObject StreamingManager::jsonFromAccount(const ServerInfo& info)
+{
+    QJsonObject object = jsonFromServerInfo(info);
+    const QList<QPair<QString, QString>> extra{
+        {providerKey, info.oauth.provider},          {channelIdKey, info.channel.id},
+        {descriptionKey, info.channel.description},  {serverKey, info.channel.server},
+        {pageKey, info.channel.page},                {accountIdKey, info.oauth.id},
+        {accessTokenKey, info.oauth.accessToken},    {refreshTokenKey, info.oauth.refreshToken}};
+    for (const auto& [key, value] : extra)
+        if (!value.isEmpty())
+            object.insert(key, value);
+    if (!info.details.isEmpty())
+        object.insert(detailsKey, info.details);
+    return object;
 }
 
 void StreamingManager::setChatBuffer(const ChatDesc& desc)

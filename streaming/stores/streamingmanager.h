@@ -44,15 +44,27 @@ public:
     // The directory the server files live in.
     QString serverDirectory() const;
 
+    // Service accounts the operator signed in to, kept as server files of their own
+    // (tokens and lists after the server keys) in a folder below the server directory,
+    // so the operator's server list never shows them. One file per service: writing
+    // replaces the service's account, removing forgets it; both update accounts().
+    QString accountDirectory() const;
+    const QList<ServerInfo>& accounts() const;
+    bool writeAccount(const ServerInfo& account);
+    bool removeAccount(const QString& provider);
+
     static constexpr int chatBufferSize = 20;
 
 private:
     ServerInfo serverInfoFromJson(const QJsonObject& object);
     QJsonObject jsonFromServerInfo(const ServerInfo& info);
+    ServerInfo accountFromJson(const QJsonObject& object);
+    QJsonObject jsonFromAccount(const ServerInfo& info);
 
     ContentsSettings m_settings;
     QList<ServerInfo> m_serverInfos;
     QList<ChatProvider*> m_chatProviders;
     LicenseModel m_licenseModel;
     QList<ChatDesc> m_chatDescs;
+    QList<ServerInfo> m_accounts;
 };

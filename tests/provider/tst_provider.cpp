@@ -1,13 +1,12 @@
 #include "provider/custom.h"
-#include "provider/dailymotion.h"
-#include "provider/hitbox.h"
+#include "provider/savedaccount.h"
+#include "provider/serviceconfig.h"
 #include "provider/simpleprovider.h"
-#include "provider/ustream.h"
 #include "support/servicefixture.h"
 
 #include <QJsonDocument>
-#include <QNetworkReply>
 #include <QSettings>
+#include <QNetworkReply>
 #include <QtTest>
 
 namespace {
@@ -30,14 +29,6 @@ QJsonObject object(const QByteArray& json)
     return QJsonDocument::fromJson(json).object();
 }
 
-// name|features|features(true)|icon|client id:secret|stream URL
-QString identity(const Provider& p)
-{
-    return QStringList{p.name(), QString::number(p.features(), 16), QString::number(p.features(true), 16),
-                       p.icon().isNull() ? "" : "icon", p.clientId() + ':' + p.clientSecret(), p.streamUrl()}
-        .join('|');
-}
-
 } // namespace
 
 class TestProvider : public QObject
@@ -45,209 +36,198 @@ class TestProvider : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        QCoreApplication::setApplicationName("tst_provider");
+    }
+    void parseError_data()
+    {
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<QString>("lastError"); // empty: no error, the earlier text stays
 
-    void parseError_data();
-    void parseError();
-    void requestHelpers_data();
-    void requestHelpers();
-    void noManagerOrNoServerGivesEmptyObject();
-    void findChannelReturnsFirstMatch();
+        const auto row = [](const char* reply, const char* lastError) { QTest::newRow(reply) << QByteArray(reply) << lastError; };
+        row(R"({"error":"X","error_description":"Y"})", "tag,X\nY");
+        row(R"({"error_description":"Y"})", "tag,\nY");
+        row(R"({"error_msg":"M"})", "tag,\nM");
+        row(R"({"error":"X","error_msg":"M"})", "tag,X\n");
+        row(R"({"error":{"message":"inner"},"error_msg":"M"})", "tag,\nM");
+        row(R"({"error":{"error_description":"D","message":"M"}})", "tag,D");
+        row(R"({"error":{}})", "");
+        row("{}", "");
+        row(R"({"error":{"message":42}})", "");
+        row(R"({"access_token":"abc","error_count":0})", "");
+    }
+    void parseError()
+    {
+        QFETCH(QByteArray, reply);
+        QFETCH(QString, lastError);
+        OpenProvider provider(nullptr, "Test");
+        provider.setLastError("earlier", "unchanged");
+        QCOMPARE(provider.parseError(object(reply), "tag"), !lastError.isEmpty());
+        QCOMPARE(provider.lastError(), lastError.isEmpty() ? QStringLiteral("earlier,unchanged") : lastError);
+    }
+    void requestHelpers_data()
+    {
+        QTest::addColumn<QByteArray>("method");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<QByteArray>("expected");
 
-    void serviceIdentities();
-    void streamKeyFromSettings();
-    void providersWithoutApiSendNothing();
+        const QByteArray item = R"({"id":"7","list":[1,2]})";
+        for (const char* method : {"GET", "DELETE", "POST", "PUT"})
+            QTest::newRow(method) << QByteArray(method) << 200 << item << item;
+        const QByteArray error = R"({"error":"invalid_token"})";
+        QTest::newRow("error status keeps its JSON") << QByteArray("GET") << 401 << error << error;
+        QTest::newRow("not JSON") << QByteArray("GET") << 200 << QByteArray("<html>gateway</html>") << QByteArray("{}");
+        QTest::newRow("megabytes") << QByteArray("GET") << 200 << QByteArray(4 << 20, 'x') << QByteArray("{}");
+    }
+    void requestHelpers()
+    {
+        QFETCH(QByteArray, method);
+        QFETCH(int, status);
+        QFETCH(QByteArray, reply);
+        QFETCH(QByteArray, expected);
+        HttpServer server;
+        FakeView view;
+        server.onJson(method, "/items/7", reply, status);
+        OpenProvider provider(&view, "Test");
+        QNetworkRequest request(QUrl(server.baseUrl() + "/items/7?x=1&y=two"));
+        request.setRawHeader("Authorization", "Bearer tok");
+        const QByteArray body = method == "POST" || method == "PUT" ? "a=1&b=two" : "";
+        const QJsonObject answer = method == "GET"      ? provider.get(request)
+                                   : method == "DELETE" ? provider.deleteResource(request)
+                                   : method == "POST"   ? provider.post(request, body)
+                                                        : provider.put(request, body);
+        QCOMPARE(answer, object(expected));
+        QCOMPARE(server.requests().size(), 1);
+        const HttpServer::Request& seen = server.requests().first();
+        QCOMPARE(seen.method + ' ' + seen.target + ' ' + seen.header("Authorization") + ' ' + seen.body,
+                 method + " /items/7?x=1&y=two Bearer tok " + body);
+        // The finished reply is released once control returns to the event loop.
+        QTRY_VERIFY(view.networkAccessManager()->findChildren<QNetworkReply*>().isEmpty());
+    }
+    void noManagerOrNoServerGivesEmptyObject()
+    {
+        auto server = std::make_unique<HttpServer>();
+        const QUrl url(server->baseUrl());
+        QVERIFY(OpenProvider(nullptr, "Test").get(QNetworkRequest(url)).isEmpty());
+        FakeView view;
+        view.resetManager();
+        QVERIFY(OpenProvider(&view, "Test").post(QNetworkRequest(url), "a=b").isEmpty());
+        QVERIFY(server->requests().isEmpty());
+        // A refused connection ends like a missing reply.
+        server.reset();
+        FakeView other;
+        QVERIFY(OpenProvider(&other, "Test").get(QNetworkRequest(url)).isEmpty());
+    }
+    void findChannelReturnsTheEntry()
+    {
+        OpenProvider provider(nullptr, "Base");
+        LiveChannel other, first, second;
+        other.name = "Other";
+        first.name = second.name = "Show";
+        first.id = "1";
+        provider.setChannels({other, first, second});
+        LiveChannel* found = provider.findChannel("Show");
+        QVERIFY(found && found->id == "1");
+        found->streamKey = "changed"; // the entry itself, not a copy
+        QCOMPARE(provider.channels().at(1).streamKey, QStringLiteral("changed"));
+        QVERIFY(!provider.findChannel("show"));
+    }
+    void providersWithoutApiSendNothing()
+    {
+        ServiceFixture f;
+        Custom custom(&f.view);
+        SimpleProvider simple(&f.view, 3601, "Restream", QUrl(), "rtmps://live.test:443/app", {});
+        QCOMPARE(simple.streamUrl(), QStringLiteral("rtmps://live.test:443/app"));
+        for (Provider* provider : {static_cast<Provider*>(&custom), static_cast<Provider*>(&simple)}) {
+            // Every operation succeeds without asking anything of the service or the view.
+            QVERIFY(provider->login("user", "pw") && provider->authorize(QUrl())
+                    && provider->authorize(QUrl("http://localhost/oauth2callback?code=1")) && provider->loadChannels()
+                    && provider->createEvent(EventInfo(), LiveChannel()) && provider->updateEvent(EventInfo(), LiveChannel())
+                    && provider->deleteEvent(LiveChannel()) && provider->revoke());
+            QCOMPARE(provider->username() + ':' + provider->password(), QStringLiteral("user:pw"));
+            QVERIFY(!provider->isAuthorized() && !provider->isLoggedIn());
+        }
+        QVERIFY(f.view.openedUrls.isEmpty() && f.view.messages.isEmpty() && f.server.requests().isEmpty());
+    }
+
+    void onlyCredentialsAndTablesLackADefault()
+    {
+        QSet<QString> names;
+        for (int index = 0; index < ServiceConfig::KeyCount; ++index) {
+            const auto key = static_cast<ServiceConfig::Key>(index);
+            const QString name = ServiceConfig::keyName(key);
+            QVERIFY2(name.contains('.') && !names.contains(name), qPrintable(name));
+            names.insert(name);
+            // No registered client id or secret is built in; every host is. An ingest table
+            // override is empty unless a deployment replaces the built-in table.
+            const bool empty = name.endsWith(".clientid") || name.endsWith(".clientsecret") || name.endsWith(".servers");
+            QVERIFY2(ServiceConfig::defaultValue(key).isEmpty() == empty, qPrintable(name));
+        }
+    }
+
+    void environmentBeforeSettingsBeforeDefault()
+    {
+        ServiceEnvironment::reset();
+        const auto key = ServiceConfig::DailyMotionApi;
+        QCOMPARE(ServiceConfig::settingsKey(key), QStringLiteral("ql.service.dailymotion.api"));
+        QSettings().setValue(ServiceConfig::settingsKey(key), "http://127.0.0.1:9001");
+        QCOMPARE(ServiceConfig::value(key), QStringLiteral("http://127.0.0.1:9001"));
+        qputenv("QUILLON_DAILYMOTION_API", "http://127.0.0.1:9002");
+        QCOMPARE(ServiceConfig::value(key), QStringLiteral("http://127.0.0.1:9002"));
+        // An empty variable still overrides: it is how a deployment switches a value off.
+        qputenv("QUILLON_DAILYMOTION_API", "");
+        QCOMPARE(ServiceConfig::value(key), QString());
+        qunsetenv("QUILLON_DAILYMOTION_API");
+        QSettings().remove(ServiceConfig::settingsKey(key));
+        QCOMPARE(ServiceConfig::value(key), QStringLiteral("https://api.dailymotion.com"));
+    }
+
+    void urlJoinsHostAndPath()
+    {
+        const QString plain = "http://127.0.0.1:8080/videos?";
+        const QList<QPair<QByteArray, QString>> hosts{{"http://127.0.0.1:8080", plain},
+                                                      {"http://127.0.0.1:8080/", plain},
+                                                      {"http://127.0.0.1:8080/api/", "http://127.0.0.1:8080/api/videos?"}};
+        for (const auto& [host, url] : hosts) {
+            qputenv("QUILLON_HITBOX_API", host);
+            QCOMPARE(ServiceConfig::url(ServiceConfig::HitboxApi, "/videos?").toString(), url);
+        }
+        qunsetenv("QUILLON_HITBOX_API");
+    }
+
+    void savedAccountComesBackWhole()
+    {
+        OpenProvider signedIn(nullptr, "Service");
+        signedIn.setAccessToken("tok");
+        signedIn.setRefreshToken("ref");
+        signedIn.setUserId("u1");
+        signedIn.setStreamKey("key");
+        signedIn.setPageToken("pt");
+        LiveChannel channel;
+        channel.name = "Show";
+        channel.ownerToken = "owner";
+        channel.flags = LiveChannel::LiveNow;
+        signedIn.setChannels({channel});
+        signedIn.setPages({{"page-token", "7", "Page"}});
+        signedIn.setEvents({EventInfo{"e1", "Show", "d", "SELF", "2025-01-01T10:00:00.000Z", "", "t", "25", "REGULAR"}});
+        signedIn.setServers({{"EU", "rtmp://127.0.0.1/live"}});
+        OpenProvider restored(nullptr, "Service");
+        SavedAccount::apply(SavedAccount::toServerInfo(signedIn), &restored);
+        QCOMPARE(SavedAccount::toServerInfo(restored).details, SavedAccount::toServerInfo(signedIn).details);
+        QCOMPARE(restored.accessToken() + restored.refreshToken() + restored.userId() + restored.streamKey(),
+                 QStringLiteral("tokrefu1key"));
+        // A damaged file gives back what it can, and nothing of the wrong shape.
+        ServerInfo damaged;
+        damaged.details = object(R"({"Channels":[1,"x",{"Name":7}],"Pages":{},"Servers":[["only"]],"LoggedIn":"yes"})");
+        SavedAccount::apply(damaged, &restored);
+        QCOMPARE(restored.channels().size(), 1);
+        QVERIFY(restored.channels().first().name.isEmpty() && restored.pages().isEmpty());
+        QVERIFY(restored.servers().isEmpty() && !restored.isLoggedIn() && restored.accessToken().isEmpty());
+    }
 };
-
-void TestProvider::initTestCase()
-{
-    QStandardPaths::setTestModeEnabled(true);
-    QCoreApplication::setOrganizationName("QuillonTests");
-    QCoreApplication::setApplicationName("tst_provider");
-}
-
-void TestProvider::parseError_data()
-{
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<QString>("tag");
-    QTest::addColumn<QString>("lastError"); // empty: no error, the earlier text stays
-
-    const auto row = [](const char* name, const char* reply, const char* tag, const char* lastError) {
-        QTest::newRow(name) << QByteArray(reply) << tag << lastError;
-    };
-    row("error and description", R"({"error":"X","error_description":"Y"})", "channelObj", "channelObj,X\nY");
-    row("error string alone", R"({"error":"invalid_grant"})", "authorize", "authorize,invalid_grant\n");
-    row("description alone", R"({"error_description":"Y"})", "videoObj", "videoObj,\nY");
-    row("error_msg alone keeps empty error", R"({"error_msg":"M"})", "streamKeyObj", "streamKeyObj,\nM");
-    row("error string wins over error_msg", R"({"error":"X","error_msg":"M"})", "t", "t,X\n");
-    row("description wins over error_msg", R"({"error_description":"D","error_msg":"M"})", "t", "t,\nD");
-    row("object error with error_msg", R"({"error":{"message":"inner"},"error_msg":"M"})", "t", "t,\nM");
-    row("object with description", R"({"error":{"error_description":"D"}})", "revokeObj", "revokeObj,D");
-    row("object with message", R"({"error":{"code":401,"message":"M"}})", "revokeObj", "revokeObj,M");
-    row("object description before message", R"({"error":{"error_description":"D","message":"M"}})", "t", "t,D");
-    row("object empty description uses message", R"({"error":{"error_description":"","message":"M"}})", "t", "t,M");
-    row("empty object", R"({"error":{}})", "t", "");
-    row("empty reply", "{}", "t", "");
-    row("object with empty message", R"({"error":{"message":""}})", "t", "");
-    row("object with numeric message", R"({"error":{"message":42}})", "t", "");
-    row("numeric error", R"({"error":401})", "t", "");
-    row("array error", R"({"error":["X"]})", "t", "");
-    row("null error", R"({"error":null})", "t", "");
-    row("numeric description", R"({"error_description":5})", "t", "");
-    row("success data", R"({"access_token":"abc","error_count":0})", "t", "");
-}
-
-void TestProvider::parseError()
-{
-    QFETCH(QByteArray, reply);
-    QFETCH(QString, tag);
-    QFETCH(QString, lastError);
-
-    OpenProvider provider(nullptr, "Test");
-    provider.setLastError("earlier", "unchanged");
-    QCOMPARE(provider.parseError(object(reply), tag), !lastError.isEmpty());
-    QCOMPARE(provider.lastError(), lastError.isEmpty() ? QStringLiteral("earlier,unchanged") : lastError);
-}
-
-void TestProvider::requestHelpers_data()
-{
-    QTest::addColumn<QByteArray>("method");
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<QByteArray>("expected");
-
-    const QByteArray item = R"({"id":"7","list":[1,2]})";
-    QTest::newRow("get") << QByteArray("GET") << QByteArray() << 200 << item << item;
-    QTest::newRow("delete") << QByteArray("DELETE") << QByteArray() << 200 << item << item;
-    QTest::newRow("post") << QByteArray("POST") << QByteArray("a=1&b=two") << 200 << item << item;
-    QTest::newRow("put") << QByteArray("PUT") << QByteArray(R"({"k":"v"})") << 200 << item << item;
-    const QByteArray error = R"({"error":"invalid_token"})";
-    QTest::newRow("error status keeps its JSON") << QByteArray("GET") << QByteArray() << 401 << error << error;
-    const auto empty = [](const char* name, int status, const QByteArray& reply) {
-        QTest::newRow(name) << QByteArray("GET") << QByteArray() << status << reply << QByteArray("{}");
-    };
-    empty("not JSON", 200, "<html>gateway</html>");
-    empty("array document", 200, R"([{"id":1}])");
-    empty("empty body", 204, QByteArray());
-    empty("truncated", 200, R"({"id":"1",)");
-    empty("megabytes of text", 200, QByteArray(4 * 1024 * 1024, 'x'));
-}
-
-void TestProvider::requestHelpers()
-{
-    QFETCH(QByteArray, method);
-    QFETCH(QByteArray, body);
-    QFETCH(int, status);
-    QFETCH(QByteArray, reply);
-    QFETCH(QByteArray, expected);
-
-    HttpServer server;
-    FakeView view;
-    server.onJson(method, "/items/7", reply, status);
-    OpenProvider provider(&view, "Test");
-    QNetworkRequest request(QUrl(server.baseUrl() + "/items/7?x=1&y=two"));
-    request.setRawHeader("Authorization", "Bearer tok");
-    const QJsonObject answer = method == "GET"      ? provider.get(request)
-                               : method == "DELETE" ? provider.deleteResource(request)
-                               : method == "POST"   ? provider.post(request, body)
-                                                    : provider.put(request, body);
-    QCOMPARE(answer, object(expected));
-    QCOMPARE(server.requests().size(), 1);
-    const HttpServer::Request& seen = server.requests().first();
-    QCOMPARE(seen.method + ' ' + seen.target, method + " /items/7?x=1&y=two");
-    QCOMPARE(seen.header("Authorization"), QByteArray("Bearer tok"));
-    QCOMPARE(seen.body, body);
-    // The finished reply is released once control returns to the event loop.
-    QTRY_VERIFY(view.networkAccessManager()->findChildren<QNetworkReply*>().isEmpty());
-}
-
-void TestProvider::noManagerOrNoServerGivesEmptyObject()
-{
-    auto server = std::make_unique<HttpServer>();
-    const QUrl url(server->baseUrl());
-    OpenProvider detached(nullptr, "Test");
-    QVERIFY(detached.get(QNetworkRequest(url)).isEmpty());
-
-    FakeView view;
-    view.resetManager();
-    OpenProvider provider(&view, "Test");
-    QVERIFY(provider.post(QNetworkRequest(url), "a=b").isEmpty());
-    QVERIFY(server->requests().isEmpty());
-
-    // A refused connection ends like a missing reply.
-    server.reset();
-    FakeView other;
-    OpenProvider refused(&other, "Test");
-    QVERIFY(refused.get(QNetworkRequest(url)).isEmpty());
-}
-
-void TestProvider::findChannelReturnsFirstMatch()
-{
-    OpenProvider provider(nullptr, "Base");
-    LiveChannel other, first, second;
-    other.name = "Other";
-    first.name = second.name = "Show";
-    first.id = "1";
-    second.id = "2";
-    provider.setChannels({other, first, second});
-
-    LiveChannel* found = provider.findChannel("Show");
-    QVERIFY(found && found->id == "1");
-    found->streamKey = "changed"; // the entry itself, not a copy
-    QCOMPARE(provider.channels().at(1).streamKey, QStringLiteral("changed"));
-    QVERIFY(!provider.findChannel("show"));
-    QVERIFY(!provider.findChannel(QString()));
-}
-
-void TestProvider::serviceIdentities()
-{
-    ServiceFixture f;
-    QCOMPARE(identity(UStream(&f.view)), QStringLiteral("UStream|3102a4|3102a4|icon|test-client:test-secret|"));
-    QCOMPARE(identity(DailyMotion(&f.view)),
-             QStringLiteral("DailyMotion|213f03a4|213f03a4|icon|test-client:test-secret|"));
-    QCOMPARE(identity(Hitbox(&f.view)), QStringLiteral("Smashcast API|300ea1|300ea1||:|"));
-    QCOMPARE(identity(Custom(&f.view)), QStringLiteral("Custom|f00a|f00a||:|"));
-    // The stream URL of a service without API is its channel's.
-    QCOMPARE(identity(SimpleProvider(&f.view, 3601, "Restream", QUrl(), "rtmps://live.test:443/app", {})),
-             QStringLiteral("Restream|e11|e11||:|rtmps://live.test:443/app"));
-}
-
-void TestProvider::streamKeyFromSettings()
-{
-    // What "ql.stream.key" holds, and the key a service named "Twitch" starts with.
-    const QList<QPair<QVariant, QString>> cases{
-        {QVariantMap{{"Twitch", "live_123_abc"}, {"Mixer", "other"}}, "live_123_abc"},
-        {QVariantMap{{"Mixer", "other"}}, QString()},
-        {QVariantMap{{"twitch", "lower"}}, QString()}, // the name differs in case
-        {QVariant(), QString()},
-        {QVariant("live_123_abc"), QString()}}; // not a map
-    for (const auto& [stored, key] : cases) {
-        QSettings().setValue(SimpleProvider::streamKeySetting, stored);
-        QCOMPARE(SimpleProvider(nullptr, 3601, "Twitch", QUrl(), QString(), {}).streamKey(), key);
-    }
-    QSettings().clear();
-}
-
-void TestProvider::providersWithoutApiSendNothing()
-{
-    ServiceFixture f;
-    Custom custom(&f.view);
-    SimpleProvider simple(&f.view, 3601, "Restream", QUrl(), QString(), {});
-    for (Provider* provider : {static_cast<Provider*>(&custom), static_cast<Provider*>(&simple)}) {
-        // Every operation succeeds without asking anything of the service or the view.
-        QVERIFY(provider->login("user", "pw") && provider->authorize(QUrl())
-                && provider->authorize(QUrl("http://localhost/oauth2callback?code=1")) && provider->loadChannels()
-                && provider->createEvent(EventInfo(), LiveChannel())
-                && provider->updateEvent(EventInfo(), LiveChannel()) && provider->deleteEvent(LiveChannel())
-                && provider->revoke());
-        QCOMPARE(provider->username() + ':' + provider->password(), QStringLiteral("user:pw"));
-        QVERIFY(!provider->isAuthorized() && !provider->isLoggedIn());
-    }
-    QVERIFY(f.view.openedUrls.isEmpty());
-    QVERIFY(f.view.messages.isEmpty());
-    QVERIFY(f.server.requests().isEmpty());
-}
 
 QTEST_MAIN(TestProvider)
 #include "tst_provider.moc"

@@ -95,12 +95,117 @@ class TestBandwidthWidget : public QObject
 private slots:
     void cleanup() { QVERIFY(QThreadPool::globalInstance()->waitForDone(10000)); }
 
-    void progressAndBestRules();
-    void measure_data();
-    void measure();
-    void tieKeepsEarlierServer();
-    void endsEarlyWithoutResults_data();
-    void endsEarlyWithoutResults();
+    void measure_data()
+    {
+        QTest::addColumn<QList<LabelPair>>("servers");
+        QTest::addColumn<QList<int>>("open");
+        QTest::addColumn<int>("slow");  // accepts its first connection after 300 ms, 0: none
+        QTest::addColumn<int>("stuck"); // never accepts, 0: none
+        QTest::addColumn<QStringList>("results"); // label and progress of each result
+        QTest::addColumn<QStringList>("best");
+
+        QTest::newRow("fastest wins") << QList<LabelPair>{server("Slow", 1), server("Fast", 2)} << QList<int>{2} << 1 << 0
+                                      << QStringList{"Slow 50", "Fast 100"} << QStringList{"Fast"};
+        // Ports in the URL are ignored, and a bare host is a host too.
+        QTest::newRow("refused counts for progress but emits nothing")
+            << QList<LabelPair>{server("Closed", 5), server("Port 80", 6, "80"), server("Closed again", 7)} << QList<int>{6}
+            << 0 << 0 << QStringList{"Port 80 67"} << QStringList{"Port 80"};
+        QTest::newRow("all unreachable names no server")
+            << QList<LabelPair>{server("One", 9), server("Two", 10), {"Broken", "not a url"}} << QList<int>{} << 0 << 0
+            << QStringList{} << QStringList{};
+        QTest::newRow("never accepting hits the limit") << QList<LabelPair>{server("Stuck", 11), {"Bare", "127.19.35.12"}}
+                                                        << QList<int>{12} << 0 << 11 << QStringList{"Bare 100"}
+                                                        << QStringList{"Bare"};
+    }
+    void measure()
+    {
+        QFETCH(QList<LabelPair>, servers);
+        QFETCH(QList<int>, open);
+        QFETCH(int, slow);
+        QFETCH(int, stuck);
+        QFETCH(QStringList, results);
+        QFETCH(QStringList, best);
+
+        std::vector<std::unique_ptr<Listener>> listeners;
+        for (int n : open + QList<int>{slow, stuck})
+            if (n)
+                listeners.push_back(std::make_unique<Listener>(n, n == slow || n == stuck));
+        for (const auto& listener : listeners)
+            QVERIFY(listener->ok());
+        // Room in the queue again well before the second SYN is sent (about one second in).
+        if (slow)
+            QTimer::singleShot(300, this, [&] { listeners.at(open.size())->acceptOne(); });
+
+        const Run run = this->run(servers);
+        QStringList labels = run.results;
+        for (QString& result : labels) // drop the time: "<label> <time> ms <progress>"
+            result = result.section(' ', 0, -4) + ' ' + result.section(' ', -1);
+        QCOMPARE(labels, results);
+        QCOMPARE(run.best, best);
+        for (const QString& result : run.results)
+            QVERIFY2(result.section(' ', -2, -2) == "ms", qPrintable(result));
+        if (slow)
+            QVERIFY2(measuredMs(run.results.first()) >= 500, qPrintable(run.results.first()));
+        if (stuck)
+            QVERIFY2(run.elapsed >= BandwidthProbe::connectTimeout - 100, qPrintable(QString::number(run.elapsed)));
+    }
+    void tieKeepsEarlierServer()
+    {
+        Listener first(3, false);
+        Listener second(4, false);
+        QVERIFY(first.ok() && second.ok());
+        // Loopback connections take well under a millisecond, so the two times
+        // nearly always tie; when they do not, the faster one must win.
+        bool tied = false;
+        for (int attempt = 0; attempt < 5 && !tied; ++attempt) {
+            const Run run = this->run({server("First", 3), server("Second", 4)});
+            QCOMPARE(run.results.size(), 2);
+            const int firstMs = measuredMs(run.results.at(0));
+            const int secondMs = measuredMs(run.results.at(1));
+            tied = firstMs == secondMs;
+            QCOMPARE(run.best, QStringList({secondMs < firstMs ? "Second" : "First"}));
+        }
+        QVERIFY(tied);
+    }
+    void endsEarlyWithoutResults_data()
+    {
+        QTest::addColumn<bool>("destroy");
+        QTest::newRow("stop()") << false;
+        QTest::newRow("widget destroyed") << true;
+    }
+    void endsEarlyWithoutResults()
+    {
+        QFETCH(bool, destroy);
+        const int n = destroy ? 15 : 13;
+        Listener stuck(n, true);
+        Listener fast(n + 1, false);
+        QVERIFY(stuck.ok() && fast.ok());
+        // Stopped before anything is measured, or destroyed with a first result queued but not delivered.
+        const QList<LabelPair> servers = destroy ? QList<LabelPair>{server("Fast", n + 1), server("Stuck", n),
+                                                                    server("Fast again", n + 1)}
+                                                 : QList<LabelPair>{server("Stuck", n), server("Fast", n + 1)};
+        auto provider = std::make_unique<SimpleProvider>(&m_view, 3601, "Test", QUrl(), QString(), servers);
+        auto widget = std::make_unique<BandwidthWidget>();
+        QSignalSpy changes(widget.get(), &BandwidthWidget::bandwidthChanged);
+        QSignalSpy best(widget.get(), &BandwidthWidget::bestServerChanged);
+        widget->start(provider.get());
+        QVERIFY(widget->isRunning());
+        if (destroy) {
+            QThread::msleep(200);
+            widget.reset();
+            provider.reset();
+            QVERIFY(QThreadPool::globalInstance()->waitForDone(10000));
+        } else {
+            QElapsedTimer timer;
+            timer.start();
+            widget->stop(); // the GUI thread is never held up by the measurement
+            QVERIFY(timer.elapsed() < 500 && widget->isStopped());
+            QTRY_VERIFY_WITH_TIMEOUT(!widget->isRunning(), 5000);
+        }
+        QTest::qWait(50);
+        QVERIFY(changes.isEmpty());
+        QVERIFY(best.isEmpty());
+    }
 
 private:
     struct Run {
@@ -108,163 +213,30 @@ private:
         QStringList best;
         qint64 elapsed = 0;
     };
-    Run run(const QList<LabelPair>& servers);
+    Run run(const QList<LabelPair>& servers)
+    {
+        SimpleProvider provider(&m_view, 3601, "Test", QUrl(), QString(), servers);
+        BandwidthWidget widget;
+        QSignalSpy changes(&widget, &BandwidthWidget::bandwidthChanged);
+        QSignalSpy best(&widget, &BandwidthWidget::bestServerChanged);
+        QElapsedTimer timer;
+        timer.start();
+        widget.start(&provider);
+        [&] { QTRY_VERIFY_WITH_TIMEOUT(widget.isStopped(), 20000); }();
+        Run run;
+        run.elapsed = timer.elapsed();
+        QCoreApplication::processEvents(); // the last queued results
+        for (const QList<QVariant>& arguments : changes)
+            run.results << arguments.at(0).toString() + ' ' + arguments.at(1).toString();
+        for (const QList<QVariant>& arguments : best)
+            run.best << arguments.at(0).toString();
+        if (!changes.isEmpty()) // what the widget shows is the last result
+            [&] { QTRY_COMPARE(widget.message(), changes.last().at(0).toString()); }();
+        return run;
+    }
 
     FakeView m_view;
 };
-
-void TestBandwidthWidget::progressAndBestRules()
-{
-    // Rounded half up and clamped; no servers is 0 %.
-    const auto progress = &BandwidthProbe::progress;
-    QCOMPARE(QList<int>({progress(1, 3), progress(2, 3), progress(45, 45), progress(1, 8), progress(0, 0),
-                         progress(5, 4)}),
-             QList<int>({33, 67, 100, 13, 0, 100}));
-    // Only a strictly faster time replaces the best, and nothing at or above the start value.
-    const auto better = &BandwidthProbe::isBetter;
-    const qint64 start = BandwidthProbe::initialBest;
-    QCOMPARE(QList<bool>({better(10, 11), better(11, 11), better(12, 11), better(9999, start), better(10000, start)}),
-             QList<bool>({true, false, false, true, false}));
-}
-
-TestBandwidthWidget::Run TestBandwidthWidget::run(const QList<LabelPair>& servers)
-{
-    SimpleProvider provider(&m_view, 3601, "Test", QUrl(), QString(), servers);
-    BandwidthWidget widget;
-    QSignalSpy changes(&widget, &BandwidthWidget::bandwidthChanged);
-    QSignalSpy best(&widget, &BandwidthWidget::bestServerChanged);
-    QElapsedTimer timer;
-    timer.start();
-    widget.start(&provider);
-    [&] { QTRY_VERIFY_WITH_TIMEOUT(widget.isStopped(), 20000); }();
-    Run run;
-    run.elapsed = timer.elapsed();
-    QCoreApplication::processEvents(); // the last queued results
-    for (const QList<QVariant>& arguments : changes)
-        run.results << arguments.at(0).toString() + ' ' + arguments.at(1).toString();
-    for (const QList<QVariant>& arguments : best)
-        run.best << arguments.at(0).toString();
-    if (!changes.isEmpty()) // what the widget shows is the last result
-        [&] { QTRY_COMPARE(widget.message(), changes.last().at(0).toString()); }();
-    return run;
-}
-
-void TestBandwidthWidget::measure_data()
-{
-    QTest::addColumn<QList<LabelPair>>("servers");
-    QTest::addColumn<QList<int>>("open");
-    QTest::addColumn<int>("slow");  // accepts its first connection after 300 ms, 0: none
-    QTest::addColumn<int>("stuck"); // never accepts, 0: none
-    QTest::addColumn<QStringList>("results"); // label and progress of each result
-    QTest::addColumn<QStringList>("best");
-
-    QTest::newRow("fastest wins") << QList<LabelPair>{server("Slow", 1), server("Fast", 2)} << QList<int>{2} << 1 << 0
-                                  << QStringList{"Slow 50", "Fast 100"} << QStringList{"Fast"};
-    QTest::newRow("refused counts for progress but emits nothing")
-        << QList<LabelPair>{server("Closed", 5), server("A", 6), server("Closed again", 7)} << QList<int>{6} << 0 << 0
-        << QStringList{"A 67"} << QStringList{"A"};
-    QTest::newRow("port 80 is tested on 1935") << QList<LabelPair>{server("Port 80", 8, "80")} << QList<int>{8} << 0
-                                               << 0 << QStringList{"Port 80 100"} << QStringList{"Port 80"};
-    QTest::newRow("all unreachable names no server")
-        << QList<LabelPair>{server("One", 9), server("Two", 10), {"Broken", "not a url"}} << QList<int>{} << 0 << 0
-        << QStringList{} << QStringList{};
-    QTest::newRow("never accepting hits the limit") << QList<LabelPair>{server("Stuck", 11), server("Fast", 12)}
-                                                    << QList<int>{12} << 0 << 11 << QStringList{"Fast 100"}
-                                                    << QStringList{"Fast"};
-}
-
-void TestBandwidthWidget::measure()
-{
-    QFETCH(QList<LabelPair>, servers);
-    QFETCH(QList<int>, open);
-    QFETCH(int, slow);
-    QFETCH(int, stuck);
-    QFETCH(QStringList, results);
-    QFETCH(QStringList, best);
-
-    std::vector<std::unique_ptr<Listener>> listeners;
-    for (int n : open + QList<int>{slow, stuck})
-        if (n)
-            listeners.push_back(std::make_unique<Listener>(n, n == slow || n == stuck));
-    for (const auto& listener : listeners)
-        QVERIFY(listener->ok());
-    // Room in the queue again well before the second SYN is sent (about one second in).
-    if (slow)
-        QTimer::singleShot(300, this, [&] { listeners.at(open.size())->acceptOne(); });
-
-    const Run run = this->run(servers);
-    QStringList labels = run.results;
-    for (QString& result : labels) // drop the time: "<label> <time> ms <progress>"
-        result = result.section(' ', 0, -4) + ' ' + result.section(' ', -1);
-    QCOMPARE(labels, results);
-    QCOMPARE(run.best, best);
-    for (const QString& result : run.results)
-        QVERIFY2(result.section(' ', -2, -2) == "ms", qPrintable(result));
-    if (slow)
-        QVERIFY2(measuredMs(run.results.first()) >= 500, qPrintable(run.results.first()));
-    if (stuck)
-        QVERIFY2(run.elapsed >= BandwidthProbe::connectTimeout - 100, qPrintable(QString::number(run.elapsed)));
-}
-
-void TestBandwidthWidget::tieKeepsEarlierServer()
-{
-    Listener first(3, false);
-    Listener second(4, false);
-    QVERIFY(first.ok() && second.ok());
-    // Loopback connections take well under a millisecond, so the two times
-    // nearly always tie; when they do not, the faster one must win.
-    bool tied = false;
-    for (int attempt = 0; attempt < 5 && !tied; ++attempt) {
-        const Run run = this->run({server("First", 3), server("Second", 4)});
-        QCOMPARE(run.results.size(), 2);
-        const int firstMs = measuredMs(run.results.at(0));
-        const int secondMs = measuredMs(run.results.at(1));
-        tied = firstMs == secondMs;
-        QCOMPARE(run.best, QStringList({secondMs < firstMs ? "Second" : "First"}));
-    }
-    QVERIFY(tied);
-}
-
-void TestBandwidthWidget::endsEarlyWithoutResults_data()
-{
-    QTest::addColumn<bool>("destroy");
-    QTest::newRow("stop()") << false;
-    QTest::newRow("widget destroyed") << true;
-}
-
-void TestBandwidthWidget::endsEarlyWithoutResults()
-{
-    QFETCH(bool, destroy);
-    const int n = destroy ? 15 : 13;
-    Listener stuck(n, true);
-    Listener fast(n + 1, false);
-    QVERIFY(stuck.ok() && fast.ok());
-    // Stopped before anything is measured, or destroyed with a first result queued but not delivered.
-    const QList<LabelPair> servers = destroy ? QList<LabelPair>{server("Fast", n + 1), server("Stuck", n),
-                                                                server("Fast again", n + 1)}
-                                             : QList<LabelPair>{server("Stuck", n), server("Fast", n + 1)};
-    auto provider = std::make_unique<SimpleProvider>(&m_view, 3601, "Test", QUrl(), QString(), servers);
-    auto widget = std::make_unique<BandwidthWidget>();
-    QSignalSpy changes(widget.get(), &BandwidthWidget::bandwidthChanged);
-    QSignalSpy best(widget.get(), &BandwidthWidget::bestServerChanged);
-    widget->start(provider.get());
-    QVERIFY(widget->isRunning());
-    if (destroy) {
-        QThread::msleep(200);
-        widget.reset();
-        provider.reset();
-        QVERIFY(QThreadPool::globalInstance()->waitForDone(10000));
-    } else {
-        QElapsedTimer timer;
-        timer.start();
-        widget->stop(); // the GUI thread is never held up by the measurement
-        QVERIFY(timer.elapsed() < 500 && widget->isStopped());
-        QTRY_VERIFY_WITH_TIMEOUT(!widget->isRunning(), 5000);
-    }
-    QTest::qWait(50);
-    QVERIFY(changes.isEmpty());
-    QVERIFY(best.isEmpty());
-}
 
 QTEST_MAIN(TestBandwidthWidget)
 #include "tst_bandwidthwidget.moc"

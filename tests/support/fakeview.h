@@ -33,7 +33,6 @@ public:
     QStringList tags() const;
     QList<QUrl> openedUrls;
     int closeCount = 0;
-    int bandwidthCount = 0;
 
     // Drops the network manager (and every reply it still owns).
     void resetManager();

@@ -2,7 +2,6 @@
 
 #include <QHostAddress>
 #include <QTcpSocket>
-#include <QUrl>
 
 namespace {
 QByteArray routeKey(const QByteArray& method, const QString& path)
@@ -20,17 +19,9 @@ QByteArray HttpServer::Request::header(const QByteArray& name) const
     return {};
 }
 
-QString HttpServer::Request::formValue(const QString& key) const
-{
-    QString text = QString::fromUtf8(body);
-    text.replace(QLatin1Char('+'), QLatin1Char(' '));
-    return QUrlQuery(text).queryItemValue(key, QUrl::FullyDecoded);
-}
-
 HttpServer::HttpServer(QObject* parent)
     : QObject(parent)
 {
-    m_fallback = [](const Request&) { return json("{}", 404); };
     connect(&m_server, &QTcpServer::newConnection, this, [this] {
         while (QTcpSocket* socket = m_server.nextPendingConnection()) {
             socket->setParent(this);
@@ -48,7 +39,6 @@ HttpServer::HttpServer(QObject* parent)
 HttpServer::~HttpServer() { m_server.close(); }
 quint16 HttpServer::port() const { return m_server.serverPort(); }
 QString HttpServer::baseUrl() const { return QStringLiteral("http://127.0.0.1:%1").arg(port()); }
-void HttpServer::setFallback(const Handler& handler) { m_fallback = handler; }
 
 void HttpServer::on(const QByteArray& method, const QString& path, const Reply& reply)
 {
@@ -125,9 +115,9 @@ void HttpServer::readFrom(QTcpSocket* socket)
         buffer.remove(0, headerEnd + 4 + length);
         m_requests.append(request);
 
-        const Handler handler = m_routes.value(routeKey(request.method, request.path), m_fallback);
-        const Reply reply = handler(request);
-        emit requestReceived();
+        // Unmatched requests get 404 with an empty JSON object.
+        const Handler handler = m_routes.value(routeKey(request.method, request.path));
+        const Reply reply = handler ? handler(request) : json("{}", 404);
         if (reply.silent) {
             m_held.append(socket);
             return;

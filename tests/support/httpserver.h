@@ -7,7 +7,6 @@
 #include <QPair>
 #include <QString>
 #include <QTcpServer>
-#include <QUrlQuery>
 
 #include <functional>
 
@@ -28,11 +27,8 @@ public:
         QList<QPair<QByteArray, QByteArray>> headers;
         QByteArray body;
 
-        QUrlQuery queryItems() const { return QUrlQuery(query); }
         // The first header of that name (case-insensitive), or empty.
         QByteArray header(const QByteArray& name) const;
-        // The body read as a form, or the query: each value percent-decoded.
-        QString formValue(const QString& key) const;
     };
 
     struct Reply {
@@ -56,8 +52,6 @@ public:
     void on(const QByteArray& method, const QString& path, const Handler& handler);
     // A 200 reply with the given JSON text.
     void onJson(const QByteArray& method, const QString& path, const QByteArray& json, int status = 200);
-    // What unmatched requests get (404 with an empty JSON object unless set).
-    void setFallback(const Handler& handler);
 
     const QList<Request>& requests() const { return m_requests; }
     QList<Request> requests(const QByteArray& method, const QString& path) const;
@@ -67,9 +61,6 @@ public:
     int heldCount() const { return m_held.size(); }
 
     static Reply json(const QByteArray& body, int status = 200);
-
-signals:
-    void requestReceived();
 
 private:
     struct Connection {
@@ -81,7 +72,6 @@ private:
 
     QTcpServer m_server;
     QHash<QByteArray, Handler> m_routes;
-    Handler m_fallback;
     QList<Request> m_requests;
     QHash<QTcpSocket*, QByteArray> m_buffers;
     QList<QTcpSocket*> m_held;

@@ -1,45 +1,31 @@
 #include "support/serviceenvironment.h"
 
-#include <QtGlobal>
+#include "provider/serviceconfig.h"
 
-void ServiceEnvironment::pointAt(const QString& baseUrl)
+namespace ServiceEnvironment {
+
+void pointAt(const QString& baseUrl)
 {
     for (int index = 0; index < ServiceConfig::KeyCount; ++index) {
         const auto key = static_cast<ServiceConfig::Key>(index);
         const QByteArray name = ServiceConfig::environmentName(key).toLatin1();
         const QString keyName = ServiceConfig::keyName(key);
-        if (isHostKey(key))
-            qputenv(name.constData(), baseUrl.toUtf8());
-        else if (keyName.endsWith(QLatin1String(".clientid")))
-            qputenv(name.constData(), clientId().toUtf8());
+        if (keyName.endsWith(QLatin1String(".clientid")))
+            qputenv(name.constData(), "test-client");
         else if (keyName.endsWith(QLatin1String(".clientsecret")))
-            qputenv(name.constData(), clientSecret().toUtf8());
+            qputenv(name.constData(), "test-secret");
+        // Ingest and chat addresses are not HTTP hosts, the redirect is never contacted, and
+        // server tables are JSON: tests that need one set it themselves.
+        else if (!keyName.endsWith(QLatin1String(".ingest")) && !keyName.endsWith(QLatin1String(".servers"))
+                 && key != ServiceConfig::OAuthRedirect && key != ServiceConfig::TwitchIrc)
+            qputenv(name.constData(), baseUrl.toUtf8());
     }
 }
 
-void ServiceEnvironment::reset()
+void reset()
 {
-    for (int index = 0; index < ServiceConfig::KeyCount; ++index) {
-        const auto key = static_cast<ServiceConfig::Key>(index);
-        qunsetenv(ServiceConfig::environmentName(key).toLatin1().constData());
-    }
+    for (int index = 0; index < ServiceConfig::KeyCount; ++index)
+        qunsetenv(ServiceConfig::environmentName(static_cast<ServiceConfig::Key>(index)).toLatin1().constData());
 }
 
-bool ServiceEnvironment::isHostKey(ServiceConfig::Key key)
-{
-    // Ingest and chat addresses are not HTTP hosts; the redirect is never contacted.
-    switch (key) {
-    case ServiceConfig::OAuthRedirect:
-    case ServiceConfig::TwitchIngest:
-    case ServiceConfig::TwitchIrc:
-    case ServiceConfig::HitboxIngest:
-    case ServiceConfig::FacebookIngest:
-        return false;
-    default: {
-        // Server tables are JSON, not addresses; tests that need one set it themselves.
-        const QString name = ServiceConfig::keyName(key);
-        return !name.endsWith(QLatin1String(".clientid")) && !name.endsWith(QLatin1String(".clientsecret"))
-            && !name.endsWith(QLatin1String(".servers"));
-    }
-    }
-}
+} // namespace ServiceEnvironment
