@@ -6,27 +6,27 @@
     <message>
         <location filename="../streaming/setup/authorizedialog.ui" line="+6"/>
         <source>Authorize</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <location line="+6"/>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername:</translation>
     </message>
     <message>
         <location line="+20"/>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort:</translation>
     </message>
     <message>
         <location filename="../streaming/setup/authorizedialog.cpp" line="+12"/>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -34,103 +34,103 @@
     <message>
         <location filename="../streaming/setup/basewidget.ui" line="+50"/>
         <source>Provider:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dienst:</translation>
     </message>
     <message>
         <location line="+29"/>
         <source>Authorize</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>Sign Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrieren</translation>
     </message>
     <message>
         <location line="+28"/>
         <source>Page:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite:</translation>
     </message>
     <message>
         <location line="+23"/>
         <source>Page Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten aktualisieren</translation>
     </message>
     <message>
         <location line="+37"/>
         <source>Channel:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanal:</translation>
     </message>
     <message>
         <location line="+23"/>
         <source>Add Channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanal hinzufügen</translation>
     </message>
     <message>
         <location line="+16"/>
         <source>Remove Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanäle entfernen</translation>
     </message>
     <message>
         <location line="+16"/>
         <source>Edit Channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanal bearbeiten</translation>
     </message>
     <message>
         <location line="+37"/>
         <location line="+60"/>
         <source>Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>Server:</translation>
     </message>
     <message>
         <location line="-37"/>
         <source>Find the best server</source>
-        <translation type="unfinished"></translation>
+        <translation>Besten Server finden</translation>
     </message>
     <message>
         <location line="+60"/>
         <source>Add Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Server hinzufügen</translation>
     </message>
     <message>
         <location line="+16"/>
         <source>Remove Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Server entfernen</translation>
     </message>
     <message>
         <location line="+16"/>
         <source>Server Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Servereinstellungen</translation>
     </message>
     <message>
         <location line="+37"/>
         <source>Stream Url:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stream-URL:</translation>
     </message>
     <message>
         <location line="+41"/>
         <source>Stream Key:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stream-Schlüssel:</translation>
     </message>
     <message>
         <location line="+20"/>
         <source>Show Stream Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Stream-Schlüssel anzeigen</translation>
     </message>
     <message>
         <location line="+40"/>
         <source>Sharing Url:</source>
-        <translation type="unfinished"></translation>
+        <translation>Link zum Teilen:</translation>
     </message>
     <message>
         <location line="+20"/>
         <source>Open URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL öffnen</translation>
     </message>
     <message>
         <location filename="../streaming/setup/servicetables.cpp" line="+31"/>
         <source>Backup Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Backup-Server</translation>
     </message>
 </context>
 <context>
@@ -138,12 +138,12 @@
     <message>
         <location filename="../streaming/setup/channelevents.cpp" line="+51"/>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanal</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Are you sure you want to remove this item?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie diesen Eintrag wirklich entfernen?</translation>
     </message>
 </context>
 <context>
@@ -152,218 +152,218 @@
         <location filename="../streaming/codec/codecpresetdialog.ui" line="+14"/>
         <location filename="../streaming/codec/codecpresetdialog.cpp" line="+41"/>
         <source>Codec Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Codec-Einstellungen</translation>
     </message>
     <message>
         <location line="+9"/>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video</translation>
     </message>
     <message>
         <location line="+6"/>
         <location line="+286"/>
         <source>Codec:</source>
-        <translation type="unfinished"></translation>
+        <translation>Codec:</translation>
     </message>
     <message>
         <location line="-276"/>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe:</translation>
     </message>
     <message>
         <location line="+98"/>
         <source>FrameRate:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildrate:</translation>
     </message>
     <message>
         <location line="+10"/>
         <source>KeyFrame:</source>
-        <translation type="unfinished"></translation>
+        <translation>Keyframe:</translation>
     </message>
     <message>
         <location line="+10"/>
         <location filename="../streaming/codec/codecpresetdialog.cpp" line="+240"/>
         <source>Bitrate(kbps):</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitrate (kbps):</translation>
     </message>
     <message>
         <location line="+26"/>
         <location line="+46"/>
         <location line="+50"/>
         <source>Preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Preset:</translation>
     </message>
     <message>
         <location line="-86"/>
         <location line="+46"/>
         <location line="+50"/>
         <source>Profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil:</translation>
     </message>
     <message>
         <location line="-86"/>
         <source>Tune:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tuning:</translation>
     </message>
     <message>
         <location line="+46"/>
         <source>B-frames:</source>
-        <translation type="unfinished"></translation>
+        <translation>B-Frames:</translation>
     </message>
     <message>
         <location line="+57"/>
         <source>Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio</translation>
     </message>
     <message>
         <location line="+19"/>
         <source>Channel:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanäle:</translation>
     </message>
     <message>
         <location line="+10"/>
         <source>SampleRate:</source>
-        <translation type="unfinished"></translation>
+        <translation>Abtastrate:</translation>
     </message>
     <message>
         <location line="+10"/>
         <source>Bitrate:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitrate:</translation>
     </message>
     <message>
         <location filename="../streaming/codec/codecpresetdialog.cpp" line="-240"/>
         <source>Add Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>Codec hinzufügen</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <location line="+130"/>
         <source>%1 sec</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <location line="+36"/>
         <source>%1 (%2x%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2x%3)</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>CUSTOM</source>
-        <translation type="unfinished"></translation>
+        <translation>BENUTZERDEFINIERT</translation>
     </message>
     <message>
         <location line="+34"/>
         <source>%1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2</translation>
     </message>
     <message>
         <location line="+2"/>
         <source>AUTO</source>
-        <translation type="unfinished"></translation>
+        <translation>AUTO</translation>
     </message>
     <message>
         <location line="+33"/>
         <source>Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualität:</translation>
     </message>
     <message>
         <location line="+47"/>
         <source>%1 kHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kHz</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>%1 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbps</translation>
     </message>
     <message>
         <location filename="../streaming/codec/codectables.cpp" line="+146"/>
         <source>UHD</source>
-        <translation type="unfinished"></translation>
+        <translation>UHD</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>QHD</source>
-        <translation type="unfinished"></translation>
+        <translation>QHD</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>FHD</source>
-        <translation type="unfinished"></translation>
+        <translation>FHD</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>HDV</source>
-        <translation type="unfinished"></translation>
+        <translation>HDV</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>HD</source>
-        <translation type="unfinished"></translation>
+        <translation>HD</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>qHD</source>
-        <translation type="unfinished"></translation>
+        <translation>qHD</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>PAL</source>
-        <translation type="unfinished"></translation>
+        <translation>PAL</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>NTSC</source>
-        <translation type="unfinished"></translation>
+        <translation>NTSC</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>nHD</source>
-        <translation type="unfinished"></translation>
+        <translation>nHD</translation>
     </message>
     <message>
         <location line="+77"/>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>High Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Hohe Qualität</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>High Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Hohe Leistung</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Low-Latency High Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Geringe Latenz, hohe Qualität</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Low-Latency High Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Geringe Latenz, hohe Leistung</translation>
     </message>
     <message>
         <location line="+34"/>
         <source>Stereo</source>
-        <translation type="unfinished"></translation>
+        <translation>Stereo</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Mono</source>
-        <translation type="unfinished"></translation>
+        <translation>Mono</translation>
     </message>
 </context>
 <context>
@@ -371,12 +371,12 @@
     <message>
         <location filename="../streaming/setup/customservers.cpp" line="+71"/>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Server</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Are you sure you want to remove this item?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie diesen Eintrag wirklich entfernen?</translation>
     </message>
 </context>
 <context>
@@ -384,7 +384,7 @@
     <message>
         <location filename="../streaming/provider/dailymotion.cpp" line="+36"/>
         <source>The authorization page went to an address that is not valid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anmeldeseite hat zu einer ungültigen Adresse weitergeleitet.</translation>
     </message>
 </context>
 <context>
@@ -392,28 +392,28 @@
     <message>
         <location filename="../streaming/recording/encoderitem.ui" line="+32"/>
         <source>Preset name</source>
-        <translation type="unfinished"></translation>
+        <translation>Preset-Name</translation>
     </message>
     <message>
         <location line="+7"/>
         <location line="+7"/>
         <source>H.264 20MB, AAC 128K</source>
-        <translation type="unfinished"></translation>
+        <translation>H.264 20MB, AAC 128K</translation>
     </message>
     <message>
         <location filename="../streaming/recording/encoderitem.cpp" line="+59"/>
         <source>AUTO</source>
-        <translation type="unfinished"></translation>
+        <translation>AUTO</translation>
     </message>
     <message>
         <location line="+16"/>
         <source>Stereo</source>
-        <translation type="unfinished"></translation>
+        <translation>Stereo</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Mono</source>
-        <translation type="unfinished"></translation>
+        <translation>Mono</translation>
     </message>
 </context>
 <context>
@@ -421,27 +421,27 @@
     <message>
         <location filename="../streaming/codec/encoderlistwidget.cpp" line="+32"/>
         <source>Add Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>Codec hinzufügen</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Remove Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>Codec entfernen</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Codec Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Codec-Einstellungen</translation>
     </message>
     <message>
         <location line="+99"/>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Preset</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Are you sure you want to remove this item?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie diesen Eintrag wirklich entfernen?</translation>
     </message>
 </context>
 <context>
@@ -449,82 +449,82 @@
     <message>
         <location filename="../streaming/setup/eventdialog.ui" line="+14"/>
         <source>Live Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Live-Event</translation>
     </message>
     <message>
         <location line="+21"/>
         <source>Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel:</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
         <location line="+25"/>
         <source>Start Time:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginn:</translation>
     </message>
     <message>
         <location line="+38"/>
         <source>End Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende</translation>
     </message>
     <message>
         <location line="+44"/>
         <source>Description:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung:</translation>
     </message>
     <message>
         <location line="+32"/>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlagwörter:</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>ex) funny animals, amazing space, newton, super car</source>
-        <translation type="unfinished"></translation>
+        <translation>z. B. lustige Tiere, faszinierendes Weltall, Newton, Supersportwagen</translation>
     </message>
     <message>
         <location line="+25"/>
         <source>StreamType:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stream-Typ:</translation>
     </message>
     <message>
         <location line="+34"/>
         <source>Privacy:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichtbarkeit:</translation>
     </message>
     <message>
         <location line="+35"/>
         <source>Category:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie:</translation>
     </message>
     <message>
         <location filename="../streaming/setup/eventdialog.cpp" line="+34"/>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <location line="+14"/>
         <source>REGULAR LIVE</source>
-        <translation type="unfinished"></translation>
+        <translation>NORMALER LIVESTREAM</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>CONTINOUS LIVE</source>
-        <translation type="unfinished"></translation>
+        <translation>DAUER-LIVESTREAM</translation>
     </message>
     <message>
         <location line="+58"/>
         <source>unlimited live stream on Facebook</source>
-        <translation type="unfinished"></translation>
+        <translation>unbegrenzter Livestream auf Facebook</translation>
     </message>
 </context>
 <context>
@@ -532,126 +532,126 @@
     <message>
         <location filename="../streaming/stores/filenamingdialog.ui" line="+14"/>
         <source>FileNaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateibenennung</translation>
     </message>
     <message>
         <location line="+28"/>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr</translation>
     </message>
     <message>
         <location line="+14"/>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Monat</translation>
     </message>
     <message>
         <location line="+14"/>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag</translation>
     </message>
     <message>
         <location line="+14"/>
         <source>Hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Stunde</translation>
     </message>
     <message>
         <location line="+14"/>
         <source>Minute</source>
-        <translation type="unfinished"></translation>
+        <translation>Minute</translation>
     </message>
     <message>
         <location line="+14"/>
         <source>Second</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunde</translation>
     </message>
     <message>
         <location line="+14"/>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Preset</translation>
     </message>
     <message>
         <location line="+14"/>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle</translation>
     </message>
     <message>
         <location line="+32"/>
         <source>Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>Codec</translation>
     </message>
     <message>
         <location line="+14"/>
         <source>Bitrate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitrate</translation>
     </message>
     <message>
         <location line="+14"/>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflösung</translation>
     </message>
     <message>
         <location line="+12"/>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <location line="+24"/>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
-        <location filename="../streaming/stores/filenamingdialog.cpp" line="+18"/>
+        <location filename="../streaming/stores/filenamingdialog.cpp" line="+17"/>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>FileTag</name>
     <message>
-        <location filename="../streaming/stores/filetag.cpp" line="+64"/>
+        <location filename="../streaming/stores/filetag.cpp" line="+66"/>
         <location line="+41"/>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
         <location line="-19"/>
         <source>PGM</source>
-        <translation type="unfinished"></translation>
+        <translation>PGM</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>PGM CLEAN</source>
-        <translation type="unfinished"></translation>
+        <translation>PGM CLEAN</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>PVW</source>
-        <translation type="unfinished"></translation>
+        <translation>PVW</translation>
     </message>
     <message>
         <location line="+21"/>
         <source>PROGRAM</source>
-        <translation type="unfinished"></translation>
+        <translation>PROGRAMM</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>CLEAN PROGRAM</source>
-        <translation type="unfinished"></translation>
+        <translation>PROGRAMM CLEAN</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>PREVIEW</source>
-        <translation type="unfinished"></translation>
+        <translation>VORSCHAU</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>CLEAN PREVIEW</source>
-        <translation type="unfinished"></translation>
+        <translation>VORSCHAU CLEAN</translation>
     </message>
 </context>
 <context>
@@ -659,7 +659,7 @@
     <message>
         <location filename="../streaming/provider/provider.cpp" line="+237"/>
         <source>The service sent a reply that could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Dienst hat eine Antwort gesendet, die nicht gelesen werden konnte.</translation>
     </message>
 </context>
 <context>
@@ -667,236 +667,141 @@
     <message>
         <location filename="../streaming/recording/recordingsetup.ui" line="+14"/>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme</translation>
     </message>
     <message>
         <location line="+8"/>
         <source>Location:</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicherort:</translation>
     </message>
     <message>
         <location line="+21"/>
         <source>Record to Media Bin:</source>
-        <translation type="unfinished"></translation>
+        <translation>In Medienpool aufnehmen:</translation>
     </message>
     <message>
         <location line="+10"/>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <location line="+14"/>
-        <location filename="../streaming/recording/recordingsetup.cpp" line="+146"/>
+        <location filename="../streaming/recording/recordingsetup.cpp" line="+112"/>
         <source>Edit Naming</source>
-        <translation type="unfinished"></translation>
+        <translation>Benennung bearbeiten</translation>
     </message>
     <message>
         <location line="+14"/>
         <source>Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>Format:</translation>
     </message>
     <message>
         <location line="+10"/>
         <source>Split File:</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei teilen:</translation>
     </message>
     <message>
         <location line="+31"/>
         <source>Codec:</source>
-        <translation type="unfinished"></translation>
+        <translation>Codec:</translation>
     </message>
     <message>
         <location line="+28"/>
         <source>Max Resolution:</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Auflösung:</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>Max Recording:</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Aufnahmen:</translation>
     </message>
     <message>
         <location line="+25"/>
         <source>Video Source:</source>
-        <translation type="unfinished"></translation>
+        <translation>Videoquelle:</translation>
     </message>
     <message>
         <location line="+28"/>
         <source>Audio Source:</source>
-        <translation type="unfinished"></translation>
+        <translation>Audioquelle:</translation>
     </message>
     <message>
         <location line="+15"/>
         <source>Preset name</source>
-        <translation type="unfinished"></translation>
+        <translation>Preset-Name</translation>
     </message>
     <message>
         <location line="+7"/>
         <location filename="../streaming/recording/recordingsetup.cpp" line="+1"/>
         <source>Add Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Presets hinzufügen</translation>
     </message>
     <message>
         <location line="+14"/>
         <location filename="../streaming/recording/recordingsetup.cpp" line="+1"/>
         <source>Remove Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Presets entfernen</translation>
     </message>
     <message>
-        <location filename="../streaming/recording/recordingsetup.cpp" line="-96"/>
-        <source>5 minutes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>15 minutes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>30 minutes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>45 minutes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>1 hour</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>2 hours</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>4 hours</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>8 hours</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>12 hours</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>24 hours</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+4"/>
+        <location filename="../streaming/recording/recordingsetup.cpp" line="-66"/>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>CLIP 1</source>
-        <translation type="unfinished"></translation>
+        <translation>CLIP 1</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>CLIP 2</source>
-        <translation type="unfinished"></translation>
+        <translation>CLIP 2</translation>
     </message>
     <message>
         <location line="+10"/>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
-        <location line="+27"/>
-        <source>PGM</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>PGM(Clean)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>PVW</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+7"/>
-        <source>BUS A</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>BUS B</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>BUS A+B</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>PGM+A</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>PGM+B</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>PGM+A+B</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+11"/>
+        <location line="+35"/>
         <source>Max Resolution: %1x%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Auflösung: %1x%2</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Max Recording: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Aufnahmen: %1</translation>
     </message>
     <message>
         <location line="+113"/>
         <location line="+8"/>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Preset</translation>
     </message>
     <message>
         <location line="-8"/>
         <source>Please try again after recording is finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte versuchen Sie es nach dem Ende der Aufnahme erneut.</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Are you sure you want to remove this item?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie diesen Eintrag wirklich entfernen?</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>Check the maximum number of recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen Sie die maximale Anzahl an Aufnahmen.</translation>
     </message>
     <message>
         <location line="+21"/>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
-        <location line="+30"/>
+        <location line="+22"/>
         <source>Open Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner auswählen</translation>
     </message>
 </context>
 <context>
@@ -904,124 +809,222 @@
     <message>
         <location filename="../streaming/setup/serverdialog.ui" line="+14"/>
         <source>Custom Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigener Server</translation>
     </message>
     <message>
         <location line="+23"/>
         <source>Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel:</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>Server:</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>rtmp://host/application</source>
-        <translation type="unfinished"></translation>
+        <translation>rtmp://host/anwendung</translation>
     </message>
     <message>
         <location line="+10"/>
         <source>type : rtmp, rtmps, rtsp, srt, tcp, udp</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ: rtmp, rtmps, rtsp, srt, tcp, udp</translation>
     </message>
     <message>
         <location line="+24"/>
         <source>Stream Key:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stream-Schlüssel:</translation>
     </message>
     <message>
         <location line="+10"/>
         <source>streamKey</source>
-        <translation type="unfinished"></translation>
+        <translation>Stream-Schlüssel</translation>
     </message>
     <message>
         <location line="+7"/>
         <location line="+107"/>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <location line="-73"/>
         <source>Mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus:</translation>
     </message>
     <message>
         <location line="+29"/>
         <source>Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Port:</translation>
     </message>
     <message>
         <location line="+14"/>
         <source>Latency(ms):</source>
-        <translation type="unfinished"></translation>
+        <translation>Latenz (ms):</translation>
     </message>
     <message>
         <location line="+14"/>
         <location line="+146"/>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort:</translation>
     </message>
     <message>
         <location line="-118"/>
         <source>Key Length:</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssellänge:</translation>
     </message>
     <message>
         <location line="+29"/>
         <source>Stream ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stream-ID:</translation>
     </message>
     <message>
         <location line="+10"/>
         <source>Filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter:</translation>
     </message>
     <message>
         <location line="+31"/>
         <source>Use authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Authentifizierung verwenden</translation>
     </message>
     <message>
         <location line="+38"/>
         <source>Username:</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername:</translation>
     </message>
     <message>
         <location filename="../streaming/setup/serverdialog.cpp" line="+34"/>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keiner</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>fec</source>
-        <translation type="unfinished"></translation>
+        <translation>fec</translation>
     </message>
     <message>
         <location line="+142"/>
         <source>warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Encryption characters must be between 10 and 79 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Passphrase für die Verschlüsselung muss 10 bis 79 Zeichen lang sein.</translation>
+    </message>
+</context>
+<context>
+    <name>SourceLists</name>
+    <message>
+        <location filename="../streaming/recording/sourcelists.cpp" line="+14"/>
+        <source>5 minutes</source>
+        <translation>5 Minuten</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>15 minutes</source>
+        <translation>15 Minuten</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>30 minutes</source>
+        <translation>30 Minuten</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>45 minutes</source>
+        <translation>45 Minuten</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>1 hour</source>
+        <translation>1 Stunde</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>2 hours</source>
+        <translation>2 Stunden</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>4 hours</source>
+        <translation>4 Stunden</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>8 hours</source>
+        <translation>8 Stunden</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>12 hours</source>
+        <translation>12 Stunden</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>24 hours</source>
+        <translation>24 Stunden</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>PGM</source>
+        <translation>PGM</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>PGM(Clean)</source>
+        <translation>PGM (Clean)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>PVW</source>
+        <translation>PVW</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>BUS A</source>
+        <translation>BUS A</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>BUS B</source>
+        <translation>BUS B</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>BUS A+B</source>
+        <translation>BUS A+B</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>PGM+A</source>
+        <translation>PGM+A</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>PGM+B</source>
+        <translation>PGM+B</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>PGM+A+B</source>
+        <translation>PGM+A+B</translation>
     </message>
 </context>
 <context>
@@ -1029,240 +1032,145 @@
     <message>
         <location filename="../streaming/setup/streamingsetup.ui" line="+14"/>
         <location line="+7"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+587"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+592"/>
         <source>Streaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Streaming</translation>
     </message>
     <message>
         <location line="+30"/>
         <source>Codec:</source>
-        <translation type="unfinished"></translation>
+        <translation>Codec:</translation>
     </message>
     <message>
         <location line="+44"/>
         <source>Video Source:</source>
-        <translation type="unfinished"></translation>
+        <translation>Videoquelle:</translation>
     </message>
     <message>
         <location line="+44"/>
         <source>Audio Source:</source>
-        <translation type="unfinished"></translation>
+        <translation>Audioquelle:</translation>
     </message>
     <message>
         <location line="+41"/>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <location line="+15"/>
         <source>Location:</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicherort:</translation>
     </message>
     <message>
         <location line="+16"/>
         <location line="+12"/>
         <source>Select...</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswählen...</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <location line="+20"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-447"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-451"/>
         <source>Edit Naming</source>
-        <translation type="unfinished"></translation>
+        <translation>Benennung bearbeiten</translation>
     </message>
     <message>
         <location line="+16"/>
         <source>Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>Format:</translation>
     </message>
     <message>
         <location line="+16"/>
         <source>Split File:</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei teilen:</translation>
     </message>
     <message>
         <location line="+38"/>
         <location line="+172"/>
         <source>Max Resolution:</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Auflösung:</translation>
     </message>
     <message>
         <location line="-142"/>
         <location line="+156"/>
         <source>Max Streaming:</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Streams:</translation>
     </message>
     <message>
         <location line="-109"/>
         <source>Preset Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Preset-Name:</translation>
     </message>
     <message>
         <location line="+13"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+471"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+475"/>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
         <location line="+7"/>
         <location filename="../streaming/setup/streamingsetup.cpp" line="-375"/>
         <location line="+1"/>
         <source>Add Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Presets hinzufügen</translation>
     </message>
     <message>
         <location line="+19"/>
         <location filename="../streaming/setup/streamingsetup.cpp" line="+1"/>
         <location line="+1"/>
         <source>Remove Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Presets entfernen</translation>
     </message>
     <message>
         <location line="+32"/>
         <location filename="../streaming/setup/streamingsetup.cpp" line="+340"/>
         <location line="+24"/>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Preset</translation>
     </message>
     <message>
-        <location filename="../streaming/setup/streamingformlists.cpp" line="+17"/>
-        <source>5 minutes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>15 minutes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>30 minutes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>45 minutes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>1 hour</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>2 hours</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>4 hours</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>8 hours</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>12 hours</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>24 hours</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+15"/>
-        <source>PGM</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>PGM(Clean)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>PVW</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+11"/>
-        <source>BUS A</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>BUS B</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>BUS A+B</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>PGM+A</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>PGM+B</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+2"/>
-        <source>PGM+A+B</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-492"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-496"/>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
-        <location line="+173"/>
+        <location line="+177"/>
         <source>Deauthorize</source>
-        <translation type="unfinished"></translation>
+        <translation>Abmelden</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Authorize</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <location line="+295"/>
         <source>Check the maximum number of streams.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen Sie die maximale Anzahl an Streams.</translation>
     </message>
     <message>
         <location line="+8"/>
         <source>Check the same streaming url!</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Stream-URL wird bereits verwendet!</translation>
     </message>
     <message>
         <location line="+16"/>
         <source>Please try again after streaming is finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte versuchen Sie es nach dem Ende des Streams erneut.</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Are you sure you want to remove this item?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie diesen Eintrag wirklich entfernen?</translation>
     </message>
     <message>
-        <location line="+42"/>
+        <location line="+34"/>
         <source>Open Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner auswählen</translation>
     </message>
 </context>
 <context>
@@ -1270,7 +1178,7 @@
     <message>
         <location filename="../streaming/setup/webdialog.ui" line="+14"/>
         <source>Authorize</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
 </context>
 <context>
@@ -1278,12 +1186,12 @@
     <message>
         <location filename="../streaming/provider/webview.cpp" line="+184"/>
         <source>No web browser is available on this system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem System ist kein Webbrowser verfügbar.</translation>
     </message>
     <message>
         <location line="+2"/>
         <source>Open this address in a web browser to continue:</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen Sie diese Adresse in einem Webbrowser, um fortzufahren:</translation>
     </message>
 </context>
 </TS>

@@ -18,8 +18,12 @@ AppOptions AppOptions::parse(const QStringList& arguments)
     const QCommandLineOption screenshots(QStringLiteral("screenshots"),
                                          tr("Render every window and dialog to PNG files in <dir> and exit."),
                                          tr("dir"));
+    const QCommandLineOption language(QStringLiteral("lang"),
+                                      tr("Show the texts in <language> (de, fr or en) instead of the system's language."),
+                                      tr("language"));
     parser.addOption(data);
     parser.addOption(screenshots);
+    parser.addOption(language);
 
     if (!parser.parse(arguments)) {
         options.m_errorText = parser.errorText();
@@ -49,6 +53,21 @@ AppOptions AppOptions::parse(const QStringList& arguments)
             return options;
         }
         options.m_screenshotDirectory = QDir::cleanPath(QDir::current().absoluteFilePath(dir));
+    }
+    if (parser.isSet(language)) {
+        const QString name = parser.value(language);
+        if (name.isEmpty()) {
+            options.m_errorText = tr("--lang needs a language code such as de, fr or en.");
+            return options;
+        }
+        const QLocale locale(name);
+        // QLocale reads any name it does not know as "C".
+        if (locale.language() == QLocale::C && name.compare(QLatin1String("C"), Qt::CaseInsensitive) != 0) {
+            options.m_errorText = tr("Unknown language: %1. Use a code such as de, fr or en.").arg(name);
+            return options;
+        }
+        options.m_locale = locale;
+        options.m_languageRequested = true;
     }
     return options;
 }

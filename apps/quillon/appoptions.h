@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QString>
 #include <QStringList>
 
@@ -23,11 +24,16 @@ public:
     QString dataDirectory() const { return m_dataDirectory; }
     // Absolute; empty unless --screenshots was given.
     QString screenshotDirectory() const { return m_screenshotDirectory; }
+    // The language of the texts: --lang, else the system's.
+    QLocale locale() const { return m_locale; }
+    bool languageRequested() const { return m_languageRequested; }
 
 private:
     QString m_dataDirectory;
     QString m_screenshotDirectory;
     QString m_errorText;
     QString m_helpText;
+    QLocale m_locale = QLocale::system();
     bool m_helpRequested = false;
+    bool m_languageRequested = false;
 };

@@ -3,9 +3,11 @@
 #include "quillon/hostsession.h"
 #include "quillon/mainwindow.h"
 #include "quillon/screenshotrenderer.h"
+#include "quillon/translations.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 #include <QTextStream>
 
@@ -19,7 +21,15 @@ int main(int argc, char* argv[])
     QApplication::setOrganizationName(QStringLiteral("Quillon"));
     QApplication::setApplicationName(QStringLiteral("Quillon"));
 
-    const AppOptions options = AppOptions::parse(QApplication::arguments());
+    AppOptions options = AppOptions::parse(QApplication::arguments());
+    Translations translations;
+    bool translated = true;
+    if (options.isValid()) {
+        translated = translations.install(options.locale(),
+                                          Translations::folders(QCoreApplication::applicationDirPath()));
+        // Read again so that --help and the messages about the arguments are in that language.
+        options = AppOptions::parse(QApplication::arguments());
+    }
     QTextStream err(stderr);
     if (!options.isValid()) {
         err << options.errorText() << '\n';
@@ -35,6 +45,21 @@ int main(int argc, char* argv[])
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, options.dataDirectory());
 
     ActivityLog log;
+    QStringList loaded;
+    for (const QString& file : translations.loadedFiles())
+        loaded.append(QFileInfo(file).fileName());
+    if (!loaded.isEmpty()) {
+        log.info(QCoreApplication::translate("main", "Translations: %1").arg(loaded.join(QStringLiteral(", "))));
+    } else if (!translated) {
+        const QString text = QCoreApplication::translate("main", "No translation for %1 was found; the texts are in "
+                                                                 "English.")
+                                 .arg(options.locale().name());
+        // Worth a warning when asked for by name; a system language that is not shipped is not.
+        if (options.languageRequested())
+            log.warning(text);
+        else
+            log.info(text);
+    }
     // The stores exist before any dialog can be opened.
     HostSession session(options.dataDirectory(), &log);
     MainWindow window(session);

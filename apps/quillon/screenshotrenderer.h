@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class HostSession;
 class MainWindow;
 class QWidget;
@@ -16,8 +18,9 @@ class ScreenshotRenderer
 public:
     ScreenshotRenderer(MainWindow& window, HostSession& session);
 
-    // "mainwindow.png" and one "<id>.png" per dialog (id in lower case). False with
-    // errorText() set when the directory or a file cannot be written.
+    // "mainwindow.png", one "<id>.png" per registered dialog (id in lower case) and one
+    // per dialog those open (screenshotrenderer.cpp lists them). False with errorText()
+    // set when the directory or a file cannot be written, or a dialog did not open.
     bool renderAll(const QString& directory);
     QStringList written() const { return m_written; }
     QString errorText() const { return m_errorText; }
@@ -25,6 +28,9 @@ public:
     static bool grabToFile(QWidget* widget, const QString& path);
 
 private:
+    bool write(QWidget* widget, const QString& file);
+    bool renderInner(const QString& dialogId, const std::function<bool(QWidget*)>& open, const QString& file);
+
     MainWindow& m_window;
     HostSession& m_session;
     QStringList m_written;

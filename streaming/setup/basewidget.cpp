@@ -9,6 +9,10 @@ BaseWidget::BaseWidget(QWidget* parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     ui->providerSelect->setIconSize(QSize(18, 18));
     ui->providerSelect->setMinimumHeight(20);
+    // Never cut a service's name: the window widens instead (the translated buttons beside
+    // the list are wider in some languages).
+    ui->providerSelect->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    ui->providerSelect->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
     connect(ui->showKey, &QToolButton::toggled, this, &BaseWidget::showStreamKey);
 }
 

@@ -20,4 +20,13 @@ execute_process(COMMAND "${CMAKE_COMMAND}" -E env "LD_LIBRARY_PATH=${WORK_DIR}/p
 if(result)
     message(FATAL_ERROR "the consumer failed: ${result}")
 endif()
+# The installed console finds its translations beside itself, away from the build tree.
+if(EXISTS "${WORK_DIR}/prefix/bin/quillon")
+    execute_process(COMMAND "${CMAKE_COMMAND}" -E env "LD_LIBRARY_PATH=${WORK_DIR}/prefix/lib"
+                            QT_QPA_PLATFORM=offscreen LANG=C "${WORK_DIR}/prefix/bin/quillon" --lang de --help
+                    RESULT_VARIABLE result OUTPUT_VARIABLE help ERROR_QUIET)
+    if(result OR NOT help MATCHES "Quillon-Ausgabekonsole")
+        message(FATAL_ERROR "the installed console did not show its German texts (${result}):\n${help}")
+    endif()
+endif()
 message(STATUS "find_package(Streaming) consumer built and ran")

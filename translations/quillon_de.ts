@@ -1,0 +1,441 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>AppOptions</name>
+    <message>
+        <location filename="../apps/quillon/appoptions.cpp" line="+13"/>
+        <source>Quillon output console: the reference host of the streaming library.</source>
+        <translation>Quillon-Ausgabekonsole: der Referenz-Host der Streaming-Bibliothek.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Keep presets, servers, setup, licence and project files in &lt;dir&gt;.</source>
+        <translation>Presets, Server, Setup-, Lizenz- und Projektdateien in &lt;ordner&gt; ablegen.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+3"/>
+        <source>dir</source>
+        <translation>ordner</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Render every window and dialog to PNG files in &lt;dir&gt; and exit.</source>
+        <translation>Jedes Fenster und jeden Dialog als PNG-Datei in &lt;ordner&gt; speichern und beenden.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Show the texts in &lt;language&gt; (de, fr or en) instead of the system&apos;s language.</source>
+        <translation>Die Texte in &lt;sprache&gt; (de, fr oder en) statt in der Systemsprache anzeigen.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>language</source>
+        <translation>sprache</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Unexpected argument: %1</source>
+        <translation>Unerwartetes Argument: %1</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>--data needs a directory.</source>
+        <translation>--data braucht einen Ordner.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>--screenshots needs a directory.</source>
+        <translation>--screenshots braucht einen Ordner.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>--lang needs a language code such as de, fr or en.</source>
+        <translation>--lang braucht einen Sprachcode wie de, fr oder en.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Unknown language: %1. Use a code such as de, fr or en.</source>
+        <translation>Unbekannte Sprache: %1. Verwenden Sie einen Code wie de, fr oder en.</translation>
+    </message>
+</context>
+<context>
+    <name>DataDirectory</name>
+    <message>
+        <location filename="../apps/quillon/datadirectory.cpp" line="+22"/>
+        <source>The data folder %1 could not be created.</source>
+        <translation>Der Datenordner %1 konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>%1 could not be written (%2); the defaults are used.</source>
+        <translation>%1 konnte nicht geschrieben werden (%2); die Standardwerte werden verwendet.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1 written with the defaults.</source>
+        <translation>%1 mit den Standardwerten geschrieben.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 could not be read (%2); the defaults are used.</source>
+        <translation>%1 konnte nicht gelesen werden (%2); die Standardwerte werden verwendet.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>%1 at offset %2</source>
+        <translation>%1 an Position %2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>not a JSON object</source>
+        <translation>kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 is not valid (%2); the defaults are used and the file is left as it is.</source>
+        <translation>%1 ist ungültig (%2); die Standardwerte werden verwendet, die Datei bleibt unverändert.</translation>
+    </message>
+</context>
+<context>
+    <name>EncodingLogFormatter</name>
+    <message>
+        <location filename="../apps/quillon/encodinglogformatter.cpp" line="+14"/>
+        <source>Start streaming</source>
+        <translation>Stream starten</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Stop streaming</source>
+        <translation>Stream stoppen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Start recording</source>
+        <translation>Aufnahme starten</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Stop recording</source>
+        <translation>Aufnahme stoppen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Start output kind %1</source>
+        <translation>Ausgabe der Art %1 starten</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Stop output kind %1</source>
+        <translation>Ausgabe der Art %1 stoppen</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>no codec</source>
+        <translation>kein Codec</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1: %2 -&gt; %3</source>
+        <translation>%1: %2 -&gt; %3</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>(no URL)</source>
+        <translation>(keine URL)</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source> (key %1)</source>
+        <translation> (Schlüssel %1)</translation>
+    </message>
+</context>
+<context>
+    <name>FileOutputInterface</name>
+    <message>
+        <location filename="../host/interface/fileoutputinterface.cpp" line="+37"/>
+        <source>Setup file could not be read: %1</source>
+        <translation>Die Setup-Datei konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>not a JSON object</source>
+        <translation>kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>The unusable setup file %1 could not be kept aside; it is left unchanged.</source>
+        <translation>Die unbrauchbare Setup-Datei %1 konnte nicht beiseitegelegt werden; sie bleibt unverändert.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <location line="+6"/>
+        <source>Couldn&apos;t write the setup file %1: %2</source>
+        <translation>Die Setup-Datei %1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>HostSession</name>
+    <message>
+        <location filename="../apps/quillon/hostsession.cpp" line="+25"/>
+        <source>Data folder: %1</source>
+        <translation>Datenordner: %1</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Licence: %1 streams, %2 recordings, %3 ISO recordings, %4 outputs, up to %5x%6.</source>
+        <translation>Lizenz: %1 Streams, %2 Aufnahmen, %3 ISO-Aufnahmen, %4 Ausgänge, bis %5x%6.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Project: %1x%2 %3, %4 Hz audio.</source>
+        <translation>Projekt: %1x%2 %3, Audio mit %4 Hz.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Video outputs: %1 SDI, %2 NDI, %3 display, %4 virtual camera; %5 audio devices.</source>
+        <translation>Videoausgänge: %1 SDI, %2 NDI, %3 Bildschirm, %4 virtuelle Kamera; %5 Audiogeräte.</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+19"/>
+        <source>Seeded %n starter codec preset(s).</source>
+        <translation>
+            <numerusform>%n Start-Codec-Preset angelegt.</numerusform>
+            <numerusform>%n Start-Codec-Presets angelegt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Codec presets: %1, saved servers: %2.</source>
+        <translation>Codec-Presets: %1, gespeicherte Server: %2.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Setup file damaged: kept as %1, defaults in use.</source>
+        <translation>Setup-Datei beschädigt: als %1 aufbewahrt, Standardwerte aktiv.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The setup file was damaged and has been kept as %1; starting with default settings.</source>
+        <translation>Die Setup-Datei war beschädigt und wurde als %1 aufbewahrt; Start mit den Standardeinstellungen.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Setup file damaged: defaults in use, changes are not saved.</source>
+        <translation>Setup-Datei beschädigt: Standardwerte aktiv, Änderungen werden nicht gespeichert.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The setup file %1 is damaged and could not be kept aside; starting with default settings, and changes are not saved.</source>
+        <translation>Die Setup-Datei %1 ist beschädigt und konnte nicht beiseitegelegt werden; Start mit den Standardeinstellungen, Änderungen werden nicht gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <location filename="../apps/quillon/mainwindow.ui" line="+14"/>
+        <source>Quillon - Output Console</source>
+        <translation>Quillon - Ausgabekonsole</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Outputs</source>
+        <translation>Ausgänge</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Codec Presets</source>
+        <translation>Codec-Presets</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Saved Servers</source>
+        <translation>Gespeicherte Server</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Running Outputs</source>
+        <translation>Laufende Ausgänge</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Engine Log</source>
+        <translation>Engine-Protokoll</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>&amp;Outputs</source>
+        <translation>&amp;Ausgänge</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>&amp;Reload Stores</source>
+        <translation>Presets und Server &amp;neu laden</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <location filename="../apps/quillon/mainwindow.cpp" line="+37"/>
+        <source>Data folder: %1</source>
+        <translation>Datenordner: %1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>%1 | %2 streams, %3 recordings</source>
+        <translation>%1 | %2 Streams, %3 Aufnahmen</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Started with warnings; see the log.</source>
+        <translation>Mit Warnungen gestartet; siehe Protokoll.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Ready.</source>
+        <translation>Bereit.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The setup could not be saved; see the log.</source>
+        <translation>Das Setup konnte nicht gespeichert werden; siehe Protokoll.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Setup saved (%1).</source>
+        <translation>Setup gespeichert (%1).</translation>
+    </message>
+    <message>
+        <location line="+40"/>
+        <source>Opened %1</source>
+        <translation>Geöffnet: %1</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Stores reloaded: %1 codec presets, %2 saved servers.</source>
+        <translation>Neu geladen: %1 Codec-Presets, %2 gespeicherte Server.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>No codec presets</source>
+        <translation>Keine Codec-Presets</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+16"/>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <location line="-14"/>
+        <source>No saved servers</source>
+        <translation>Keine gespeicherten Server</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Unnamed</source>
+        <translation>Unbenannt</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Nothing running</source>
+        <translation>Nichts aktiv</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Warning; see the log.</source>
+        <translation>Warnung; siehe Protokoll.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputDialogRegistry</name>
+    <message>
+        <location filename="../apps/quillon/outputdialogregistry.cpp" line="+23"/>
+        <source>File naming: &quot;%1&quot; gives %2</source>
+        <translation>Dateibenennung: „%1“ ergibt %2</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Streaming…</source>
+        <translation>Streaming…</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Recording…</source>
+        <translation>Aufnahme…</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>File Naming…</source>
+        <translation>Dateibenennung…</translation>
+    </message>
+</context>
+<context>
+    <name>PresetSeeder</name>
+    <message>
+        <location filename="../apps/quillon/presetseeder.cpp" line="+106"/>
+        <source>The codec preset %1 could not be written to %2.</source>
+        <translation>Das Codec-Preset %1 konnte nicht nach %2 geschrieben werden.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>The starter presets were written but %1 could not be (%2); they may come back.</source>
+        <translation>Die Start-Presets wurden geschrieben, %1 jedoch nicht (%2); sie können wiederkommen.</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotRenderer</name>
+    <message>
+        <location filename="../apps/quillon/screenshotrenderer.cpp" line="+93"/>
+        <source>The screenshot folder %1 could not be created.</source>
+        <translation>Der Ordner für Bildschirmfotos %1 konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <location line="+43"/>
+        <source>%1 could not be written.</source>
+        <translation>%1 konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <location line="-27"/>
+        <source>%1: the console has no dialog &quot;%2&quot;.</source>
+        <translation>%1: Die Konsole hat keinen Dialog „%2“.</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>%1: the dialog did not open from &quot;%2&quot;.</source>
+        <translation>%1: Der Dialog ließ sich aus „%2“ nicht öffnen.</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <location filename="../apps/quillon/main.cpp" line="+52"/>
+        <source>Translations: %1</source>
+        <translation>Übersetzungen: %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>No translation for %1 was found; the texts are in English.</source>
+        <translation>Keine Übersetzung für %1 gefunden; die Texte sind auf Englisch.</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Screenshot %1</source>
+        <translation>Bildschirmfoto %1</translation>
+    </message>
+</context>
+</TS>
