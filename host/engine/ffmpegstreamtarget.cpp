@@ -55,14 +55,15 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
     addSecret(&out->secrets, s.passphrase);
 
     if (scheme == QLatin1String("rtmp") || scheme == QLatin1String("rtmps")) {
-        // Services take the key as the last path element: rtmp://host/app/key. It goes to
-        // FFmpeg as one argument and never through a shell, so any character is safe.
+        // Services take the key as the stream name after the application: rtmp://host/app/key.
+        // It goes to FFmpeg whole as its own argument, never parsed from a URL and never through a
+        // shell, so spaces and any other character arrive as typed.
         QString url = scheme + QLatin1String("://") + rest;
         while (url.endsWith(QLatin1Char('/')))
             url.chop(1);
         out->display = url;
         if (!s.key.isEmpty()) {
-            url += QLatin1Char('/') + s.key;
+            out->options << QStringLiteral("-rtmp_playpath") << s.key;
             out->display += QLatin1Char('/') + maskedSecret(s.key);
         }
         if (!s.username.isEmpty()) {
@@ -72,8 +73,8 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
         }
         out->url = url;
         out->muxer = QStringLiteral("flv");
-        out->options << QStringLiteral("-rw_timeout") << QLatin1String(ioTimeoutUs) << QStringLiteral("-flvflags")
-                     << QStringLiteral("no_duration_filesize");
+        out->options << QStringLiteral("-rtmp_live") << QStringLiteral("live") << QStringLiteral("-rw_timeout")
+                     << QLatin1String(ioTimeoutUs) << QStringLiteral("-flvflags") << QStringLiteral("no_duration_filesize");
         return true;
     }
     if (scheme == QLatin1String("srt")) {
@@ -95,9 +96,6 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
             *refusal = tr("The SRT mode \"%1\" is unknown; choose caller, listener or rendezvous.").arg(s.mode);
             return false;
         }
-        out->url = QStringLiteral("srt://") + hostPort;
-        out->display = out->url + QStringLiteral(" (%1)").arg(mode);
-        out->muxer = QStringLiteral("mpegts");
         out->options << QStringLiteral("-mode") << mode << QStringLiteral("-pkt_size") << QStringLiteral("1316");
         if (s.latency > 0)
             out->options << QStringLiteral("-latency") << QString::number(qint64(s.latency) * 1000);
@@ -114,8 +112,13 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
             out->options << QStringLiteral("-passphrase") << s.passphrase << QStringLiteral("-pbkeylen")
                          << QString::number(keyLength);
         }
+        out->url = QStringLiteral("srt://") + hostPort;
+        out->display = out->url + QStringLiteral(" (%1)").arg(mode);
+        // FFmpeg's own "-streamid" numbers output streams: the SRT one goes in the URL,
+        // percent-encoded (FFmpeg decodes it).
         if (!s.streamId.isEmpty())
-            out->options << QStringLiteral("-streamid") << s.streamId;
+            out->url += QStringLiteral("?streamid=") + QString::fromUtf8(QUrl::toPercentEncoding(s.streamId));
+        out->muxer = QStringLiteral("mpegts");
         return true;
     }
     if (scheme == QLatin1String("rtsp")) {

@@ -86,6 +86,12 @@ private slots:
         QuillonEngine::setProjectPreset(project);
     }
 
+    // A failed case must not leave its encoders to the next.
+    void cleanup()
+    {
+        QuillonEngine::stopAll();
+    }
+
     void cleanupTestCase()
     {
         QuillonEngine::setBackend(nullptr);
