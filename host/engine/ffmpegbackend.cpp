@@ -41,12 +41,6 @@ QString freeFile(const QString& file)
     return file;
 }
 
-QString lastLine(const QByteArray& text)
-{
-    const QList<QByteArray> lines = text.trimmed().split('\n');
-    return lines.isEmpty() ? QString() : QString::fromUtf8(lines.last().trimmed());
-}
-
 } // namespace
 
 FfmpegBackend::FfmpegBackend(const FfmpegCapabilities& capabilities, QObject* parent)
@@ -94,7 +88,7 @@ bool FfmpegBackend::tryOnce(const FfmpegJob& job, const CodecPreset& preset, QSt
             process.waitForFinished(2000);
             error = tr("the encoder did not answer");
         } else if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
-            error = lastLine(process.readAllStandardError());
+            error = FfmpegCommand::errorReason(process.readAllStandardError());
             if (error.isEmpty())
                 error = tr("the encoder refused them");
         }
@@ -236,7 +230,7 @@ bool FfmpegBackend::grab(int source, const QString& path, const ProjectPreset& p
             [this, process, path](int code, QProcess::ExitStatus status) {
                 QString error;
                 if (status != QProcess::NormalExit || code != 0 || !QFileInfo::exists(path)) {
-                    error = lastLine(process->readAllStandardError());
+                    error = FfmpegCommand::errorReason(process->readAllStandardError());
                     if (error.isEmpty())
                         error = tr("The still could not be written to %1.").arg(QDir::toNativeSeparators(path));
                     emit message(error, true);

@@ -305,7 +305,7 @@ bool FfmpegCodecMap::mapVideo(const CodecPreset& preset, const ProjectPreset& pr
           << QString::number(std::abs(out->frameRate - 25) < 0.1 || std::abs(out->frameRate - 50) < 0.1 ? 12 : 15)
           << QStringLiteral("-bf") << QStringLiteral("2") << QStringLiteral("-intra_vlc") << QStringLiteral("1")
           << QStringLiteral("-non_linear_quant") << QStringLiteral("1") << QStringLiteral("-dc") << QStringLiteral("10")
-          << QStringLiteral("-qmin") << QStringLiteral("1");
+          << QStringLiteral("-qmin") << QStringLiteral("1") << QStringLiteral("-qmax") << QStringLiteral("28");
         fields(true);
         out->needsTrial = muxer == QLatin1String("mxf");
         break;

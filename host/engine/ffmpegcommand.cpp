@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace {
 
@@ -152,4 +153,19 @@ bool FfmpegCommand::grab(int source, const ProjectPreset& project, const QString
     *arguments << QStringLiteral("-f") << QStringLiteral("image2") << QStringLiteral("-update") << QStringLiteral("1")
                << path;
     return true;
+}
+
+QString FfmpegCommand::errorReason(const QByteArray& errors)
+{
+    QStringList lines;
+    for (const QByteArray& raw : errors.split('\n'))
+        if (!raw.trimmed().isEmpty())
+            lines.append(QString::fromUtf8(raw.trimmed()));
+    if (lines.isEmpty())
+        return QString();
+    QString line = lines.last();
+    if (line.startsWith(QLatin1String("Error initializing output stream")) || line == QLatin1String("Conversion failed!"))
+        line = lines.first();
+    static const QRegularExpression prefix(QStringLiteral("^\\[[^\\]]* @ 0x[0-9a-fA-F]+\\]\\s*"));
+    return line.remove(prefix);
 }

@@ -33,6 +33,10 @@ public:
                        FfmpegJob* job, QString* refusal);
     static bool grab(int source, const ProjectPreset& project, const QString& path, QStringList* arguments,
                      QString* refusal);
+    // Why FFmpeg ended, from what it wrote to stderr: its last line, or, when that is only its
+    // summary of a failed start, the first line, in which the encoder or muxer said what it
+    // disliked. Without the "[component @ address]" prefix. Empty when it wrote nothing.
+    static QString errorReason(const QByteArray& errors);
     // The file FFmpeg writes first for a split recording of file ("name 1.mp4" for "name.mp4").
     static QString splitFileName(const QString& file, int number);
 

@@ -132,9 +132,9 @@ void FfmpegOutput::commitProgress()
 void FfmpegOutput::readErrors()
 {
     m_stderr += m_process->readAllStandardError();
-    // Keep only the tail: the last complete lines say why it ended.
-    if (m_stderr.size() > 8192)
-        m_stderr = m_stderr.right(4096);
+    // A long run keeps its first lines (a failed start explains itself there) and its last.
+    if (m_stderr.size() > 16384)
+        m_stderr = m_stderr.left(2048) + '\n' + m_stderr.right(4096);
 }
 
 void FfmpegOutput::renameFirstSplit()
@@ -157,10 +157,7 @@ void FfmpegOutput::processEnded(int exitCode, bool crashed)
         emit finished();
         return;
     }
-    QString reason;
-    const QList<QByteArray> lines = m_stderr.split('\n');
-    for (auto it = lines.crbegin(); it != lines.crend() && reason.isEmpty(); ++it)
-        reason = QString::fromUtf8(it->trimmed());
+    QString reason = FfmpegCommand::errorReason(m_stderr);
     if (reason.isEmpty())
         reason = crashed ? (exitCode == -1 ? tr("The encoder %1 could not be started.").arg(m_program)
                                            : tr("The encoder stopped unexpectedly."))

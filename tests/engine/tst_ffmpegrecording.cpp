@@ -201,7 +201,7 @@ private slots:
         dnxhd.videoCodec().height = 720;
         dnxhd.videoCodec().bitRate = 185000;
         QTest::newRow("rate the encoder's table lacks")
-            << dnxhd << "DNxHD cannot encode the settings of \"dnx\" here: Error initializing output stream";
+            << dnxhd << "DNxHD cannot encode the settings of \"dnx\" here: video parameters incompatible with DNxHD.";
         CodecPreset folder = preset("folder", "H.264", "mp4");
         folder.local().path = QStringLiteral("/proc/version/sub");
         QTest::newRow("folder that cannot be written")
@@ -272,6 +272,15 @@ private slots:
         QSignalSpy messages(&QuillonEngine::instance(), &QuillonEngine::engineMessage);
         QVERIFY(!QuillonEngine::grab(0, m_dir.filePath("still.svg")));
         QVERIFY(messages.at(0).at(0).toString().startsWith("A still cannot be written as \"svg\""));
+
+        // Without a backend the engine draws the still itself.
+        QuillonEngine::setBackend(nullptr);
+        const QString jpg = m_dir.filePath("stand-in/pgm.jpg");
+        const bool drawn = QuillonEngine::grab(0, jpg);
+        QuillonEngine::setBackend(m_backend.get());
+        QVERIFY(drawn);
+        QVERIFY(grabbed.wait(5000));
+        QCOMPARE(QImage(jpg).size(), QSize(320, 180));
     }
 
     // The host dies by SIGKILL while recording: its encoder notices, ends the file and exits.
