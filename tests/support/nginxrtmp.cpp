@@ -104,9 +104,3 @@ QByteArray NginxRtmp::statistics() const
     const int body = reply.indexOf("\r\n\r\n");
     return body < 0 ? QByteArray() : reply.mid(body + 4);
 }
-
-QString NginxRtmp::errorLog() const
-{
-    QFile file(m_prefix.path() + QStringLiteral("/error.log"));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}

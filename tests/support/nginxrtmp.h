@@ -23,7 +23,6 @@ public:
     QString url() const { return QStringLiteral("rtmp://127.0.0.1:1935/live"); }
     // The statistics page (XML), empty when nginx does not answer.
     QByteArray statistics() const;
-    QString errorLog() const;
 
 private:
     QTemporaryDir m_prefix;
