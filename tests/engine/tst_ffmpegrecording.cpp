@@ -61,7 +61,11 @@ private slots:
         QuillonEngine::setProjectPreset(project);
     }
     // A failed case must not leave its encoders to the next.
-    void cleanup() { QuillonEngine::stopAll(); }
+    void cleanup()
+    {
+        QuillonEngine::stopAll();
+        QCOMPARE(zombieChildren(), 0);
+    }
     void cleanupTestCase() { QuillonEngine::setBackend(nullptr); }
 
     void writesWhatThePresetAsks_data()

@@ -3,7 +3,9 @@
 #include "engine/ffmpegbackend.h"
 #include "engine/quillonengine.h"
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QTest>
 
 // The engine's outputs as the console sees them, for tests that run real encoders.
@@ -34,6 +36,19 @@ inline bool reaped(const FfmpegBackend& backend)
     while (!backend.processIds().isEmpty() && clock.elapsed() < 10000)
         QTest::qWait(50);
     return backend.processIds().isEmpty();
+}
+
+// Children of this process that ended and were never waited for.
+inline int zombieChildren()
+{
+    int zombies = 0;
+    for (const QString& pid : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
+        QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+        const QList<QByteArray> fields = stat.open(QIODevice::ReadOnly) ? stat.readAll().split(')').value(1).split(' ')
+                                                                         : QList<QByteArray>();
+        zombies += fields.size() > 2 && fields.at(1) == "Z" && fields.at(2).toLongLong() == QCoreApplication::applicationPid();
+    }
+    return zombies;
 }
 
 } // namespace EngineOutputs
