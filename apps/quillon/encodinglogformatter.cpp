@@ -6,7 +6,7 @@
 
 #include <QUrl>
 
-QString EncodingLogFormatter::describe(int kind, const CodecPreset& preset, bool on)
+QString EncodingLogFormatter::describe(int kind, const CodecPreset& preset, bool on, const QString& file)
 {
     QString what;
     switch (kind) {
@@ -26,7 +26,7 @@ QString EncodingLogFormatter::describe(int kind, const CodecPreset& preset, bool
     QString summary = CodecManager::namingFromPreset(&preset);
     if (summary.isEmpty())
         summary = tr("no codec");
-    const QString target = destination(kind, preset);
+    const QString target = file.isEmpty() ? destination(kind, preset) : file;
     if (target.isEmpty())
         return tr("%1: %2").arg(what, summary);
     return tr("%1: %2 -> %3").arg(what, summary, target);

@@ -1,5 +1,6 @@
 #include "quillon/activitylog.h"
 #include "quillon/appoptions.h"
+#include "quillon/enginehost.h"
 #include "quillon/hostsession.h"
 #include "quillon/mainwindow.h"
 #include "quillon/screenshotrenderer.h"
@@ -76,6 +77,8 @@ int main(int argc, char* argv[])
         return 0;
     }
 
+    // Real encoders from here on; leaving main stops them and closes their files.
+    EngineHost engine(&log);
     window.show();
     return app.exec();
 }

@@ -7,12 +7,14 @@
 #include "quillon/encodinglogformatter.h"
 #include "quillon/hostsession.h"
 #include "quillon/outputdialogregistry.h"
+#include "quillon/runninglineformatter.h"
 #include "stores/codecmanager.h"
 #include "stores/streamingmanager.h"
 
 #include <QAction>
 #include <QDialog>
 #include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
 
@@ -64,6 +66,9 @@ MainWindow::MainWindow(HostSession& session, QWidget* parent)
 
     connect(&session.setup(), &MemoryOutputInterface::encodingChangedNotified, this, &MainWindow::encodingChanged);
     connect(&QuillonEngine::instance(), &QuillonEngine::encodingRequested, this, &MainWindow::refreshRunning);
+    connect(&QuillonEngine::instance(), &QuillonEngine::outputsChanged, this, &MainWindow::refreshRunning);
+    m_runningTimer.setInterval(1000);
+    connect(&m_runningTimer, &QTimer::timeout, this, &MainWindow::refreshRunning);
     connect(&session.setup(), &MemoryOutputInterface::settingsChanged, this, [this](const QString& key) {
         const QString error = m_session.setup().lastError();
         if (!error.isEmpty()) {
@@ -161,12 +166,22 @@ void MainWindow::refreshStoreLists()
 void MainWindow::refreshRunning()
 {
     ui->runningList->clear();
-    for (const CodecPreset& preset : QuillonEngine::runningEncoders()) {
-        const QString name = preset.name().isEmpty() ? tr("Unnamed") : preset.name();
-        ui->runningList->addItem(tr("%1 - %2").arg(name, CodecManager::namingFromPreset(&preset)));
+    if (QuillonEngine::backend()) {
+        for (const EngineOutput& output : QuillonEngine::outputs())
+            ui->runningList->addItem(RunningLineFormatter::line(output));
+    } else {
+        for (const CodecPreset& preset : QuillonEngine::runningEncoders()) {
+            const QString name = preset.name().isEmpty() ? tr("Unnamed") : preset.name();
+            ui->runningList->addItem(tr("%1 - %2").arg(name, CodecManager::namingFromPreset(&preset)));
+        }
     }
     if (ui->runningList->count() == 0)
         setPlaceholder(ui->runningList, tr("Nothing running"));
+    // Ticks only while something runs.
+    if (QuillonEngine::backend() && ui->runningList->count() > 0 && ui->runningList->item(0)->flags() != Qt::NoItemFlags)
+        m_runningTimer.start();
+    else
+        m_runningTimer.stop();
 }
 
 void MainWindow::appendLogLine(const QString& line, ActivityLog::Level level)
@@ -178,6 +193,12 @@ void MainWindow::appendLogLine(const QString& line, ActivityLog::Level level)
 
 void MainWindow::encodingChanged(int kind, const CodecPreset& preset, bool on)
 {
-    m_session.log()->info(EncodingLogFormatter::describe(kind, preset, on));
+    // The file the engine really writes, when it runs one for this preset.
+    QString file;
+    const QString key = preset.id().isEmpty() ? preset.name() : preset.id();
+    for (const EngineOutput& output : QuillonEngine::outputs())
+        if (on && kind == EncodingLogFormatter::Recording && output.key == key)
+            file = QFileInfo(output.target).fileName();
+    m_session.log()->info(EncodingLogFormatter::describe(kind, preset, on, file));
     refreshRunning();
 }

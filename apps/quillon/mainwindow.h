@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QMainWindow>
 #include <QPointer>
+#include <QTimer>
 
 #include <memory>
 
@@ -47,4 +48,5 @@ private:
     std::unique_ptr<Ui::MainWindow> ui;
     HostSession& m_session;
     QHash<QString, QPointer<QDialog>> m_keptDialogs;
+    QTimer m_runningTimer; // elapsed times and retry countdowns, once a second
 };

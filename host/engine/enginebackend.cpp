@@ -1,0 +1,3 @@
+#include "engine/enginebackend.h"
+
+EngineBackend::~EngineBackend() = default;
