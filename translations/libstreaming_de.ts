@@ -136,7 +136,7 @@
 <context>
     <name>ChannelEvents</name>
     <message>
-        <location filename="../streaming/setup/channelevents.cpp" line="+51"/>
+        <location filename="../streaming/setup/channelevents.cpp" line="+66"/>
         <source>Channel</source>
         <translation>Kanal</translation>
     </message>
@@ -369,7 +369,7 @@
 <context>
     <name>CustomServers</name>
     <message>
-        <location filename="../streaming/setup/customservers.cpp" line="+71"/>
+        <location filename="../streaming/setup/customservers.cpp" line="+67"/>
         <source>Server</source>
         <translation>Server</translation>
     </message>
@@ -502,7 +502,7 @@
         <translation>Kategorie:</translation>
     </message>
     <message>
-        <location filename="../streaming/setup/eventdialog.cpp" line="+34"/>
+        <location filename="../streaming/setup/eventdialog.cpp" line="+59"/>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -522,7 +522,7 @@
         <translation>DAUER-LIVESTREAM</translation>
     </message>
     <message>
-        <location line="+58"/>
+        <location line="+73"/>
         <source>unlimited live stream on Facebook</source>
         <translation>unbegrenzter Livestream auf Facebook</translation>
     </message>
@@ -1032,7 +1032,7 @@
     <message>
         <location filename="../streaming/setup/streamingsetup.ui" line="+14"/>
         <location line="+7"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+592"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+621"/>
         <source>Streaming</source>
         <translation>Streaming</translation>
     </message>
@@ -1074,7 +1074,7 @@
     </message>
     <message>
         <location line="+20"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-451"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-479"/>
         <source>Edit Naming</source>
         <translation>Benennung bearbeiten</translation>
     </message>
@@ -1107,13 +1107,13 @@
     </message>
     <message>
         <location line="+13"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+475"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+503"/>
         <source>Untitled</source>
         <translation>Unbenannt</translation>
     </message>
     <message>
         <location line="+7"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-375"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-397"/>
         <location line="+1"/>
         <source>Add Presets</source>
         <translation>Presets hinzufügen</translation>
@@ -1127,18 +1127,18 @@
     </message>
     <message>
         <location line="+32"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+340"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+362"/>
         <location line="+24"/>
         <source>Preset</source>
         <translation>Preset</translation>
     </message>
     <message>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-496"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-524"/>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
     <message>
-        <location line="+177"/>
+        <location line="+202"/>
         <source>Deauthorize</source>
         <translation>Abmelden</translation>
     </message>
@@ -1148,7 +1148,7 @@
         <translation>Anmelden</translation>
     </message>
     <message>
-        <location line="+295"/>
+        <location line="+298"/>
         <source>Check the maximum number of streams.</source>
         <translation>Prüfen Sie die maximale Anzahl an Streams.</translation>
     </message>

@@ -157,6 +157,279 @@
     </message>
 </context>
 <context>
+    <name>EngineHost</name>
+    <message>
+        <location filename="../apps/quillon/enginehost.cpp" line="+23"/>
+        <source>Engine: FFmpeg at %1.</source>
+        <translation>Engine: FFmpeg unter %1.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Engine: FFmpeg is not installed; outputs cannot start.</source>
+        <translation>Engine: FFmpeg ist nicht installiert; Ausgänge können nicht starten.</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegBackend</name>
+    <message>
+        <location filename="../host/engine/ffmpegbackend.cpp" line="+60"/>
+        <source>&quot;%1&quot; has no file format to record into.</source>
+        <translation>„%1“ hat kein Dateiformat für die Aufnahme.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The folder %1 cannot be written; choose another location for &quot;%2&quot;.</source>
+        <translation>In den Ordner %1 kann nicht geschrieben werden; wählen Sie einen anderen Speicherort für „%2“.</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>the encoder did not answer</source>
+        <translation>der Encoder hat nicht geantwortet</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>the encoder refused them</source>
+        <translation>der Encoder hat sie abgelehnt</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>%1 cannot encode the settings of &quot;%2&quot; here: %3</source>
+        <translation>%1 kann die Einstellungen von „%2“ hier nicht kodieren: %3</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>&quot;%1&quot; cannot start: FFmpeg is not installed.</source>
+        <translation>„%1“ kann nicht starten: FFmpeg ist nicht installiert.</translation>
+    </message>
+    <message>
+        <location line="+107"/>
+        <source>The still cannot be grabbed: FFmpeg is not installed.</source>
+        <translation>Das Standbild kann nicht aufgenommen werden: FFmpeg ist nicht installiert.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The folder %1 cannot be written.</source>
+        <translation>In den Ordner %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The still could not be written to %1.</source>
+        <translation>Das Standbild konnte nicht nach %1 geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegCodecMap</name>
+    <message>
+        <location filename="../host/engine/ffmpegcodecmap.cpp" line="+127"/>
+        <source>&quot;%1&quot; has neither video nor audio to encode.</source>
+        <translation>„%1“ hat weder Video noch Audio zum Kodieren.</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>The video codec &quot;%1&quot; is unknown to the engine.</source>
+        <translation>Der Videocodec „%1“ ist der Engine unbekannt.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+236"/>
+        <source>%1 needs the encoder %2, which the installed FFmpeg does not have.</source>
+        <translation>%1 benötigt den Encoder %2, den das installierte FFmpeg nicht hat.</translation>
+    </message>
+    <message>
+        <location line="-232"/>
+        <source>%1 video cannot be written into %2.</source>
+        <translation>%1-Video kann nicht in %2 geschrieben werden.</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>%1 cannot be written interlaced; choose a progressive frame rate.</source>
+        <translation>%1 kann nicht im Zeilensprungverfahren geschrieben werden; wählen Sie eine progressive Bildrate.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The frame size %1x%2 is odd; %3 needs an even width and height.</source>
+        <translation>Die Bildgröße %1x%2 ist ungerade; %3 braucht eine gerade Breite und Höhe.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>MPEG-2 cannot run at %1 frames per second.</source>
+        <translation>MPEG-2 kann nicht mit %1 Bildern pro Sekunde laufen.</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <location line="+48"/>
+        <location line="+18"/>
+        <source>%1 has no encoder preset &quot;%2&quot;.</source>
+        <translation>%1 hat kein Encoder-Preset „%2“.</translation>
+    </message>
+    <message>
+        <location line="-55"/>
+        <source>%1 has no tune &quot;%2&quot;; choose another tune.</source>
+        <translation>%1 hat kein Tune „%2“; wählen Sie ein anderes Tune.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <location line="+23"/>
+        <source>%1 has no profile number %2.</source>
+        <translation>%1 hat kein Profil Nummer %2.</translation>
+    </message>
+    <message>
+        <location line="-18"/>
+        <source>The H.264 baseline profile cannot be interlaced; choose main or high.</source>
+        <translation>Das H.264-Profil Baseline kann kein Zeilensprungverfahren; wählen Sie Main oder High.</translation>
+    </message>
+    <message>
+        <location line="+85"/>
+        <source>DNxHD is written at 1920x1080 or 1280x720 only, not %1x%2.</source>
+        <translation>DNxHD wird nur mit 1920x1080 oder 1280x720 geschrieben, nicht mit %1x%2.</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Apple ProRes has no profile number %1.</source>
+        <translation>Apple ProRes hat kein Profil Nummer %1.</translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>The audio codec &quot;%1&quot; is unknown to the engine.</source>
+        <translation>Der Audiocodec „%1“ ist der Engine unbekannt.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>%1 audio cannot be written into %2.</source>
+        <translation>%1-Audio kann nicht in %2 geschrieben werden.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 in %2 cannot run at %3 Hz; it takes %4.</source>
+        <translation>%1 in %2 kann nicht mit %3 Hz laufen; möglich sind %4.</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegCommand</name>
+    <message>
+        <location filename="../host/engine/ffmpegcommand.cpp" line="+82"/>
+        <source>The container &quot;%1&quot; is unknown to the engine.</source>
+        <translation>Das Containerformat „%1“ ist der Engine unbekannt.</translation>
+    </message>
+    <message>
+        <location line="+63"/>
+        <source>A still cannot be written as &quot;%1&quot;; choose png, jpg, bmp, tiff, gif, webp or tga.</source>
+        <translation>Ein Standbild kann nicht als „%1“ geschrieben werden; wählen Sie png, jpg, bmp, tiff, gif, webp oder tga.</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegOutput</name>
+    <message>
+        <location filename="../host/engine/ffmpegoutput.cpp" line="+50"/>
+        <source>Stream &quot;%1&quot;</source>
+        <translation>Stream „%1“</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Stream file &quot;%1&quot;</source>
+        <translation>Stream-Datei „%1“</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Recording &quot;%1&quot;</source>
+        <translation>Aufnahme „%1“</translation>
+    </message>
+    <message>
+        <location line="+66"/>
+        <source>%1 is running again: %2</source>
+        <translation>%1 läuft wieder: %2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 is running: %2</source>
+        <translation>%1 läuft: %2</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>%1 stopped: %2</source>
+        <translation>%1 gestoppt: %2</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The encoder %1 could not be started.</source>
+        <translation>Der Encoder %1 konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The encoder stopped unexpectedly.</source>
+        <translation>Der Encoder wurde unerwartet beendet.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The encoder ended with code %1.</source>
+        <translation>Der Encoder endete mit Code %1.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The encoder ended by itself: %1</source>
+        <translation>Der Encoder hat sich selbst beendet: %1</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>%1 failed: %2 Try %3 of %4 in %5 s.</source>
+        <translation>%1 fehlgeschlagen: %2 Versuch %3 von %4 in %5 s.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>%1 failed: %2 Gave up after %3 tries.</source>
+        <translation>%1 fehlgeschlagen: %2 Nach %3 Versuchen aufgegeben.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 failed: %2 The file so far is kept: %3</source>
+        <translation>%1 fehlgeschlagen: %2 Die bisherige Datei bleibt erhalten: %3</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 failed: %2</source>
+        <translation>%1 fehlgeschlagen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegStreamTarget</name>
+    <message>
+        <location filename="../host/engine/ffmpegstreamtarget.cpp" line="+48"/>
+        <location line="+98"/>
+        <source>The stream URL &quot;%1&quot; is not one the engine can send to (rtmp, rtmps, srt, rtsp, tcp or udp).</source>
+        <translation>An die Stream-URL „%1“ kann die Engine nicht senden (rtmp, rtmps, srt, rtsp, tcp oder udp).</translation>
+    </message>
+    <message>
+        <location line="-64"/>
+        <source>The SRT packet filter &quot;%1&quot; is not supported by the installed FFmpeg; choose &quot;none&quot;.</source>
+        <translation>Der SRT-Paketfilter „%1“ wird vom installierten FFmpeg nicht unterstützt; wählen Sie „none“.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The SRT server &quot;%1&quot; has no port.</source>
+        <translation>Der SRT-Server „%1“ hat keinen Port.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The SRT mode &quot;%1&quot; is unknown; choose caller, listener or rendezvous.</source>
+        <translation>Der SRT-Modus „%1“ ist unbekannt; wählen Sie caller, listener oder rendezvous.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Encryption characters must be between 10 and 79 characters.</source>
+        <translation>Das Verschlüsselungspasswort muss zwischen 10 und 79 Zeichen lang sein.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The SRT key length must be 16, 24 or 32, not %1.</source>
+        <translation>Die SRT-Schlüssellänge muss 16, 24 oder 32 sein, nicht %1.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>The stream URL &quot;%1&quot; needs a port.</source>
+        <translation>Die Stream-URL „%1“ braucht einen Port.</translation>
+    </message>
+</context>
+<context>
     <name>FileOutputInterface</name>
     <message>
         <location filename="../host/interface/fileoutputinterface.cpp" line="+37"/>
@@ -289,7 +562,7 @@
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <location filename="../apps/quillon/mainwindow.cpp" line="+37"/>
+        <location filename="../apps/quillon/mainwindow.cpp" line="+39"/>
         <source>Data folder: %1</source>
         <translation>Datenordner: %1</translation>
     </message>
@@ -309,7 +582,7 @@
         <translation>Bereit.</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+11"/>
         <source>The setup could not be saved; see the log.</source>
         <translation>Das Setup konnte nicht gespeichert werden; siehe Protokoll.</translation>
     </message>
@@ -335,27 +608,27 @@
     </message>
     <message>
         <location line="+7"/>
-        <location line="+16"/>
+        <location line="+20"/>
         <source>%1 - %2</source>
         <translation>%1 - %2</translation>
     </message>
     <message>
-        <location line="-14"/>
+        <location line="-18"/>
         <source>No saved servers</source>
         <translation>Keine gespeicherten Server</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+17"/>
         <source>Unnamed</source>
         <translation>Unbenannt</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>Nothing running</source>
         <translation>Nichts aktiv</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+12"/>
         <source>Warning; see the log.</source>
         <translation>Warnung; siehe Protokoll.</translation>
     </message>
@@ -397,6 +670,72 @@
     </message>
 </context>
 <context>
+    <name>QuillonEngine</name>
+    <message>
+        <location filename="../host/engine/quillonengine.cpp" line="+152"/>
+        <source>The still could not be written to %1.</source>
+        <translation>Das Standbild konnte nicht nach %1 geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>RunningLineFormatter</name>
+    <message>
+        <location filename="../apps/quillon/runninglineformatter.cpp" line="+17"/>
+        <source>Stream</source>
+        <translation>Stream</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Stream file</source>
+        <translation>Stream-Datei</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Recording</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Unnamed</source>
+        <translation>Unbenannt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 &quot;%2&quot;  %3</source>
+        <translation>%1 „%2“  %3</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1  starting  %2</source>
+        <translation>%1  startet  %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1  running  %2 fps  %3 kbps  %4 dropped  %5</source>
+        <translation>%1  läuft  %2 fps  %3 kbps  %4 verworfen  %5</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>%1  failed, trying again (%2 of %3): %4</source>
+        <translation>%1  fehlgeschlagen, neuer Versuch (%2 von %3): %4</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1  failed, try %2 of %3 in %4 s: %5</source>
+        <translation>%1  fehlgeschlagen, Versuch %2 von %3 in %4 s: %5</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1  failed: %2</source>
+        <translation>%1  fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1  stopped</source>
+        <translation>%1  gestoppt</translation>
+    </message>
+</context>
+<context>
     <name>ScreenshotRenderer</name>
     <message>
         <location filename="../apps/quillon/screenshotrenderer.cpp" line="+93"/>
@@ -423,7 +762,7 @@
 <context>
     <name>main</name>
     <message>
-        <location filename="../apps/quillon/main.cpp" line="+52"/>
+        <location filename="../apps/quillon/main.cpp" line="+53"/>
         <source>Translations: %1</source>
         <translation>Übersetzungen: %1</translation>
     </message>

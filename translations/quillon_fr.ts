@@ -157,6 +157,279 @@
     </message>
 </context>
 <context>
+    <name>EngineHost</name>
+    <message>
+        <location filename="../apps/quillon/enginehost.cpp" line="+23"/>
+        <source>Engine: FFmpeg at %1.</source>
+        <translation>Moteur&#xa0;: FFmpeg dans %1.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Engine: FFmpeg is not installed; outputs cannot start.</source>
+        <translation>Moteur&#xa0;: FFmpeg n&apos;est pas installé&#xa0;; les sorties ne peuvent pas démarrer.</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegBackend</name>
+    <message>
+        <location filename="../host/engine/ffmpegbackend.cpp" line="+60"/>
+        <source>&quot;%1&quot; has no file format to record into.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;a pas de format de fichier pour l&apos;enregistrement.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The folder %1 cannot be written; choose another location for &quot;%2&quot;.</source>
+        <translation>Impossible d&apos;écrire dans le dossier %1&#xa0;; choisissez un autre emplacement pour «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>the encoder did not answer</source>
+        <translation>l&apos;encodeur n&apos;a pas répondu</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>the encoder refused them</source>
+        <translation>l&apos;encodeur les a refusés</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>%1 cannot encode the settings of &quot;%2&quot; here: %3</source>
+        <translation>%1 ne peut pas encoder ici les réglages de «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>&quot;%1&quot; cannot start: FFmpeg is not installed.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas démarrer&#xa0;: FFmpeg n&apos;est pas installé.</translation>
+    </message>
+    <message>
+        <location line="+107"/>
+        <source>The still cannot be grabbed: FFmpeg is not installed.</source>
+        <translation>Impossible de capturer l&apos;image fixe&#xa0;: FFmpeg n&apos;est pas installé.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The folder %1 cannot be written.</source>
+        <translation>Impossible d&apos;écrire dans le dossier %1.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>The still could not be written to %1.</source>
+        <translation>L&apos;image fixe n&apos;a pas pu être écrite dans %1.</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegCodecMap</name>
+    <message>
+        <location filename="../host/engine/ffmpegcodecmap.cpp" line="+127"/>
+        <source>&quot;%1&quot; has neither video nor audio to encode.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;a ni vidéo ni audio à encoder.</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>The video codec &quot;%1&quot; is unknown to the engine.</source>
+        <translation>Le codec vidéo «&#xa0;%1&#xa0;» est inconnu du moteur.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+236"/>
+        <source>%1 needs the encoder %2, which the installed FFmpeg does not have.</source>
+        <translation>%1 nécessite l&apos;encodeur %2, absent du FFmpeg installé.</translation>
+    </message>
+    <message>
+        <location line="-232"/>
+        <source>%1 video cannot be written into %2.</source>
+        <translation>La vidéo %1 ne peut pas être écrite en %2.</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>%1 cannot be written interlaced; choose a progressive frame rate.</source>
+        <translation>%1 ne peut pas être écrit en entrelacé&#xa0;; choisissez une cadence progressive.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>The frame size %1x%2 is odd; %3 needs an even width and height.</source>
+        <translation>La taille d&apos;image %1x%2 est impaire&#xa0;; %3 exige une largeur et une hauteur paires.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>MPEG-2 cannot run at %1 frames per second.</source>
+        <translation>MPEG-2 ne peut pas fonctionner à %1 images par seconde.</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <location line="+48"/>
+        <location line="+18"/>
+        <source>%1 has no encoder preset &quot;%2&quot;.</source>
+        <translation>%1 n&apos;a pas de préréglage d&apos;encodeur «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <location line="-55"/>
+        <source>%1 has no tune &quot;%2&quot;; choose another tune.</source>
+        <translation>%1 n&apos;a pas de réglage fin «&#xa0;%2&#xa0;»&#xa0;; choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <location line="+23"/>
+        <source>%1 has no profile number %2.</source>
+        <translation>%1 n&apos;a pas de profil numéro %2.</translation>
+    </message>
+    <message>
+        <location line="-18"/>
+        <source>The H.264 baseline profile cannot be interlaced; choose main or high.</source>
+        <translation>Le profil H.264 baseline ne peut pas être entrelacé&#xa0;; choisissez main ou high.</translation>
+    </message>
+    <message>
+        <location line="+85"/>
+        <source>DNxHD is written at 1920x1080 or 1280x720 only, not %1x%2.</source>
+        <translation>DNxHD ne s&apos;écrit qu&apos;en 1920x1080 ou 1280x720, pas en %1x%2.</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Apple ProRes has no profile number %1.</source>
+        <translation>Apple ProRes n&apos;a pas de profil numéro %1.</translation>
+    </message>
+    <message>
+        <location line="+43"/>
+        <source>The audio codec &quot;%1&quot; is unknown to the engine.</source>
+        <translation>Le codec audio «&#xa0;%1&#xa0;» est inconnu du moteur.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>%1 audio cannot be written into %2.</source>
+        <translation>L&apos;audio %1 ne peut pas être écrit en %2.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 in %2 cannot run at %3 Hz; it takes %4.</source>
+        <translation>%1 en %2 ne peut pas fonctionner à %3 Hz&#xa0;; valeurs possibles&#xa0;: %4.</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegCommand</name>
+    <message>
+        <location filename="../host/engine/ffmpegcommand.cpp" line="+82"/>
+        <source>The container &quot;%1&quot; is unknown to the engine.</source>
+        <translation>Le conteneur «&#xa0;%1&#xa0;» est inconnu du moteur.</translation>
+    </message>
+    <message>
+        <location line="+63"/>
+        <source>A still cannot be written as &quot;%1&quot;; choose png, jpg, bmp, tiff, gif, webp or tga.</source>
+        <translation>Une image fixe ne peut pas être écrite en «&#xa0;%1&#xa0;»&#xa0;; choisissez png, jpg, bmp, tiff, gif, webp ou tga.</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegOutput</name>
+    <message>
+        <location filename="../host/engine/ffmpegoutput.cpp" line="+50"/>
+        <source>Stream &quot;%1&quot;</source>
+        <translation>Stream «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Stream file &quot;%1&quot;</source>
+        <translation>Fichier du stream «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Recording &quot;%1&quot;</source>
+        <translation>Enregistrement «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <location line="+66"/>
+        <source>%1 is running again: %2</source>
+        <translation>%1 fonctionne à nouveau&#xa0;: %2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 is running: %2</source>
+        <translation>%1 en cours&#xa0;: %2</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>%1 stopped: %2</source>
+        <translation>%1 arrêté&#xa0;: %2</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The encoder %1 could not be started.</source>
+        <translation>L&apos;encodeur %1 n&apos;a pas pu être démarré.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The encoder stopped unexpectedly.</source>
+        <translation>L&apos;encodeur s&apos;est arrêté de manière inattendue.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The encoder ended with code %1.</source>
+        <translation>L&apos;encodeur s&apos;est terminé avec le code %1.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The encoder ended by itself: %1</source>
+        <translation>L&apos;encodeur s&apos;est terminé de lui-même&#xa0;: %1</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>%1 failed: %2 Try %3 of %4 in %5 s.</source>
+        <translation>%1 a échoué&#xa0;: %2 Tentative %3 sur %4 dans %5 s.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>%1 failed: %2 Gave up after %3 tries.</source>
+        <translation>%1 a échoué&#xa0;: %2 Abandon après %3 tentatives.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 failed: %2 The file so far is kept: %3</source>
+        <translation>%1 a échoué&#xa0;: %2 Le fichier déjà écrit est conservé&#xa0;: %3</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 failed: %2</source>
+        <translation>%1 a échoué&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>FfmpegStreamTarget</name>
+    <message>
+        <location filename="../host/engine/ffmpegstreamtarget.cpp" line="+48"/>
+        <location line="+98"/>
+        <source>The stream URL &quot;%1&quot; is not one the engine can send to (rtmp, rtmps, srt, rtsp, tcp or udp).</source>
+        <translation>Le moteur ne peut pas envoyer vers l&apos;URL de stream «&#xa0;%1&#xa0;» (rtmp, rtmps, srt, rtsp, tcp ou udp).</translation>
+    </message>
+    <message>
+        <location line="-64"/>
+        <source>The SRT packet filter &quot;%1&quot; is not supported by the installed FFmpeg; choose &quot;none&quot;.</source>
+        <translation>Le filtre de paquets SRT «&#xa0;%1&#xa0;» n&apos;est pas pris en charge par le FFmpeg installé&#xa0;; choisissez «&#xa0;none&#xa0;».</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The SRT server &quot;%1&quot; has no port.</source>
+        <translation>Le serveur SRT «&#xa0;%1&#xa0;» n&apos;a pas de port.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The SRT mode &quot;%1&quot; is unknown; choose caller, listener or rendezvous.</source>
+        <translation>Le mode SRT «&#xa0;%1&#xa0;» est inconnu&#xa0;; choisissez caller, listener ou rendezvous.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Encryption characters must be between 10 and 79 characters.</source>
+        <translation>Le mot de passe de chiffrement doit comporter entre 10 et 79 caractères.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The SRT key length must be 16, 24 or 32, not %1.</source>
+        <translation>La longueur de clé SRT doit être 16, 24 ou 32, pas %1.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>The stream URL &quot;%1&quot; needs a port.</source>
+        <translation>L&apos;URL de stream «&#xa0;%1&#xa0;» nécessite un port.</translation>
+    </message>
+</context>
+<context>
     <name>FileOutputInterface</name>
     <message>
         <location filename="../host/interface/fileoutputinterface.cpp" line="+37"/>
@@ -289,7 +562,7 @@
         <translation>&amp;Quitter</translation>
     </message>
     <message>
-        <location filename="../apps/quillon/mainwindow.cpp" line="+37"/>
+        <location filename="../apps/quillon/mainwindow.cpp" line="+39"/>
         <source>Data folder: %1</source>
         <translation>Dossier de données&#xa0;: %1</translation>
     </message>
@@ -309,7 +582,7 @@
         <translation>Prêt.</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+11"/>
         <source>The setup could not be saved; see the log.</source>
         <translation>La configuration n&apos;a pas pu être enregistrée&#xa0;; voir le journal.</translation>
     </message>
@@ -335,27 +608,27 @@
     </message>
     <message>
         <location line="+7"/>
-        <location line="+16"/>
+        <location line="+20"/>
         <source>%1 - %2</source>
         <translation>%1 - %2</translation>
     </message>
     <message>
-        <location line="-14"/>
+        <location line="-18"/>
         <source>No saved servers</source>
         <translation>Aucun serveur enregistré</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+17"/>
         <source>Unnamed</source>
         <translation>Sans nom</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+5"/>
         <source>Nothing running</source>
         <translation>Rien en cours</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+12"/>
         <source>Warning; see the log.</source>
         <translation>Avertissement&#xa0;; voir le journal.</translation>
     </message>
@@ -397,6 +670,72 @@
     </message>
 </context>
 <context>
+    <name>QuillonEngine</name>
+    <message>
+        <location filename="../host/engine/quillonengine.cpp" line="+152"/>
+        <source>The still could not be written to %1.</source>
+        <translation>L&apos;image fixe n&apos;a pas pu être écrite dans %1.</translation>
+    </message>
+</context>
+<context>
+    <name>RunningLineFormatter</name>
+    <message>
+        <location filename="../apps/quillon/runninglineformatter.cpp" line="+17"/>
+        <source>Stream</source>
+        <translation>Stream</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Stream file</source>
+        <translation>Fichier du stream</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Unnamed</source>
+        <translation>Sans nom</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 &quot;%2&quot;  %3</source>
+        <translation>%1 «&#xa0;%2&#xa0;»  %3</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1  starting  %2</source>
+        <translation>%1  démarrage  %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>%1  running  %2 fps  %3 kbps  %4 dropped  %5</source>
+        <translation>%1  en cours  %2 i/s  %3 kbit/s  %4 perdues  %5</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>%1  failed, trying again (%2 of %3): %4</source>
+        <translation>%1  échec, nouvelle tentative (%2 sur %3)&#xa0;: %4</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1  failed, try %2 of %3 in %4 s: %5</source>
+        <translation>%1  échec, tentative %2 sur %3 dans %4 s&#xa0;: %5</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>%1  failed: %2</source>
+        <translation>%1  échec&#xa0;: %2</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1  stopped</source>
+        <translation>%1  arrêté</translation>
+    </message>
+</context>
+<context>
     <name>ScreenshotRenderer</name>
     <message>
         <location filename="../apps/quillon/screenshotrenderer.cpp" line="+93"/>
@@ -423,7 +762,7 @@
 <context>
     <name>main</name>
     <message>
-        <location filename="../apps/quillon/main.cpp" line="+52"/>
+        <location filename="../apps/quillon/main.cpp" line="+53"/>
         <source>Translations: %1</source>
         <translation>Traductions&#xa0;: %1</translation>
     </message>
