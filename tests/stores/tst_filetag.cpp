@@ -1,9 +1,11 @@
 #include "records/codecpreset.h"
+#include "stores/filenamingdialog.h"
 #include "stores/filetag.h"
 #include "stores/snapshot.h"
+#include "support/testkit.h"
 
-#include <QTranslator>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -11,11 +13,7 @@ CodecPreset recording(const QString& tag, const QString& codec = "H.264", int bi
 {
     CodecPreset preset;
     preset.local().fileTag = tag;
-    preset.videoCodec().codec = codec;
-    preset.videoCodec().bitRate = bitRate;
-    preset.videoCodec().width = 1920;
-    preset.videoCodec().height = 1080;
-    preset.videoCodec().quality = quality;
+    preset.videoCodec() = {true, codec, bitRate, 0, 0, 1920, 1080, quality, 0, 0, 0, {}, {}};
     preset.container().name = "mp4";
     preset.setName("Main");
     return preset;
@@ -29,14 +27,9 @@ CodecPreset withSources(CodecPreset preset, const QString& sourceName, const QLi
     return preset;
 }
 
-Snapshot grab(int source, const QString& tag)
+Snapshot grab(int source, const QString& tag, const QString& directory = QString())
 {
-    Snapshot shot;
-    shot.source = source;
-    shot.extension = "png";
-    shot.name = "Grab";
-    shot.fileTag = tag;
-    return shot;
+    return Snapshot{source, "png", "Grab", directory, tag, {}};
 }
 
 // Stands in for a loaded translation so the contexts the texts use are checked.
@@ -61,63 +54,47 @@ class TestFileTag : public QObject
 
 private slots:
     void init() { FileTag::setClock([] { return QDateTime(QDate(2024, 3, 7), QTime(9, 5, 2)); }); }
-    void cleanup() { FileTag::resetClock(); }
-    void codecPresetTags_data()
+    void cleanup()
     {
-        QTest::addColumn<CodecPreset>("preset");
-        QTest::addColumn<bool>("withExtension");
+        FileTag::resetClock();
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+
+    void tagsExpand_data()
+    {
+        QTest::addColumn<QVariant>("record"); // a recording's CodecPreset or a grab's Snapshot
         QTest::addColumn<QString>("name");
+        const auto rec = [](const CodecPreset& p) { return QVariant::fromValue(p); };
+        const auto still = [](int source, const QString& tag) { return QVariant::fromValue(grab(source, tag)); };
 
-        QTest::newRow("every token") << withSources(recording("%P %Y-%M-%D %h-%m-%s %C_%B_%R %S"), QString(), {0})
-                                     << true << "Main 2024-03-07 09-05-02 H.264_6000Kbps_1920x1080 PGM.mp4";
-        QTest::newRow("empty tag") << recording(QString()) << true << "Untitled.mp4";
-        QTest::newRow("doubled percent") << recording("%%Y") << false << "%2024";
-        QTest::newRow("trailing percent") << recording("take %") << false << "take %";
-        QTest::newRow("percents only") << recording("%%") << false << "%%";
-        QTest::newRow("unknown token") << recording("%X-%Y") << false << "%X-2024";
-        QTest::newRow("case matters") << recording("%y %M %m %S") << false << "%y 03 05 ";
-        QTest::newRow("token then text") << recording("%mmin") << false << "05min";
-
-        QTest::newRow("DV25 fixed rate and size") << recording("%B %R", "DV25", 5000) << false << "28770Kbps 720x480";
-        QTest::newRow("MJPEG in whole Mbps") << recording("%B", "MJPEG", 2500) << false << "2Mbps";
-        QTest::newRow("MJPEG below 1 Mbps") << recording("%B", "MJPEG", 999) << false << "0Mbps";
-        QTest::newRow("ProRes 5 is HQ") << recording("%B %R", "Apple ProRes", 0, 5) << false << "HQ 1920x1080";
-        QTest::newRow("ProRes -2 is PROXY") << recording("%B", "Apple ProRes", 0, -2) << false << "PROXY";
-
-        QTest::newRow("source name wins") << withSources(recording("[%S]"), "Cam 1", {0}) << false << "[Cam 1]";
-        QTest::newRow("clean programme") << withSources(recording("[%S]"), QString(), {1}) << false << "[PGM CLEAN]";
-        QTest::newRow("lowest key counts")
-            << withSources(recording("[%S]"), QString(), {2, 1}) << false << "[PGM CLEAN]";
-        QTest::newRow("other source") << withSources(recording("[%S]"), QString(), {5}) << false << "[]";
+        QTest::newRow("every token") << rec(withSources(recording("%P %Y-%M-%D %h-%m-%s %C_%B_%R %S"), {}, {0}))
+                                     << "Main 2024-03-07 09-05-02 H.264_6000Kbps_1920x1080 PGM.mp4";
+        QTest::newRow("empty tag") << rec(recording(QString())) << "Untitled.mp4";
+        QTest::newRow("doubled and trailing percent") << rec(recording("%%Y take %")) << "%2024 take %.mp4";
+        QTest::newRow("unknown token, case matters") << rec(recording("%X-%y %M %m")) << "%X-%y 03 05.mp4";
+        QTest::newRow("DV25 fixed rate and size") << rec(recording("%B %R", "DV25", 5000)) << "28770Kbps 720x480.mp4";
+        QTest::newRow("MJPEG in whole Mbps") << rec(recording("%B", "MJPEG", 2999)) << "2Mbps.mp4";
+        QTest::newRow("ProRes 5 is HQ") << rec(recording("%B", "Apple ProRes", 0, 5)) << "HQ.mp4";
+        QTest::newRow("source name wins") << rec(withSources(recording("[%S]"), "Cam 1", {0})) << "[Cam 1].mp4";
+        QTest::newRow("lowest key counts") << rec(withSources(recording("[%S]"), {}, {2, 1})) << "[PGM CLEAN].mp4";
+        QTest::newRow("other source") << rec(withSources(recording("[%S]"), {}, {5})) << "[].mp4";
+        QTest::newRow("grab default") << still(0, "%P %Y-%M-%D %h-%m-%s %S") << "Grab 2024-03-07 09-05-02 PROGRAM.png";
+        QTest::newRow("grab, codec tokens untouched") << still(1, "%C_%B_%R %S") << "%C_%B_%R CLEAN PROGRAM.png";
+        QTest::newRow("grab, clean preview") << still(3, "%S") << "CLEAN PREVIEW.png";
+        QTest::newRow("grab, unknown source") << still(4, "x%Sx") << "xx.png";
+        QTest::newRow("grab, empty tag") << still(0, QString()) << "Untitled.png";
     }
-    void codecPresetTags()
+    void tagsExpand()
     {
-        QFETCH(CodecPreset, preset);
-        QFETCH(bool, withExtension);
+        QFETCH(QVariant, record);
         QFETCH(QString, name);
-        QCOMPARE(FileTag::fromCodecPreset(&preset, withExtension), name);
-    }
-
-    void snapshotTags_data()
-    {
-        QTest::addColumn<Snapshot>("shot");
-        QTest::addColumn<bool>("withExtension");
-        QTest::addColumn<QString>("name");
-
-        QTest::newRow("grab default") << grab(0, "%P %Y-%M-%D %h-%m-%s %S") << true
-                                      << "Grab 2024-03-07 09-05-02 PROGRAM.png";
-        QTest::newRow("codec tokens untouched") << grab(0, "%C_%B_%R") << true << "%C_%B_%R.png";
-        QTest::newRow("preview") << grab(2, "%S") << false << "PREVIEW";
-        QTest::newRow("clean preview") << grab(3, "%S") << false << "CLEAN PREVIEW";
-        QTest::newRow("unknown source") << grab(4, "x%Sx") << false << "xx";
-        QTest::newRow("empty tag") << grab(0, QString()) << true << "Untitled.png";
-    }
-    void snapshotTags()
-    {
-        QFETCH(Snapshot, shot);
-        QFETCH(bool, withExtension);
-        QFETCH(QString, name);
-        QCOMPARE(FileTag::fromSnapshot(shot, withExtension), name);
+        if (record.canConvert<Snapshot>()) {
+            QCOMPARE(FileTag::fromSnapshot(record.value<Snapshot>(), true), name);
+        } else {
+            const CodecPreset preset = record.value<CodecPreset>();
+            QCOMPARE(FileTag::fromCodecPreset(&preset, true), name);
+            QCOMPARE(FileTag::fromCodecPreset(&preset, false), name.chopped(4));
+        }
     }
 
     void oneExpansionReadsTheClockOnce()
@@ -144,13 +121,65 @@ private slots:
         QVERIFY(QCoreApplication::installTranslator(&translator));
         const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
 
-        const CodecPreset untitled = recording(QString());
-        QCOMPARE(FileTag::fromCodecPreset(&untitled, true), QStringLiteral("<Untitled>.mp4"));
         const CodecPreset programme = withSources(recording("%S"), QString(), {1});
         QCOMPARE(FileTag::fromCodecPreset(&programme, false), QStringLiteral("<PGM CLEAN>"));
         QCOMPARE(FileTag::fromSnapshot(grab(3, "%S"), false), QStringLiteral("<CLEAN PREVIEW>"));
     }
+
+    void imagePathTakesTheNextFreeName_data()
+    {
+        QTest::addColumn<QStringList>("existing");
+        QTest::addColumn<QString>("tag");
+        QTest::addColumn<QString>("expected");
+
+        QTest::newRow("missing directory") << QStringList{} << "%P %S" << "Grab PROGRAM.png";
+        QTest::newRow("first gap") << QStringList{"Grab.png", "Grab 3.png"} << "%P" << "Grab 2.png";
+        QTest::newRow("other format") << QStringList{"Grab.jpg"} << "%P" << "Grab.png";
+        QTest::newRow("directory in the way") << QStringList{"Grab.png/"} << "%P" << "Grab 2.png";
+        QTest::newRow("folders in the tag") << QStringList{} << "%Y/%M/%P" << "2024/03/Grab.png";
+    }
+    void imagePathTakesTheNextFreeName()
+    {
+        QFETCH(QStringList, existing);
+        QFETCH(QString, tag);
+        QFETCH(QString, expected);
+        QTemporaryDir dir;
+        const QString grabs = dir.path() + "/grabs";
+        for (const QString& name : existing)
+            QVERIFY(name.endsWith('/') ? QDir().mkpath(grabs + '/' + name)
+                                       : QDir().mkpath(grabs) && TestKit::writeFile(grabs + '/' + name, {}));
+
+        const QString path = FileTag::imagePath(grab(0, tag, grabs));
+        QCOMPARE(path, grabs + QDir::separator() + expected);
+        // Its directory is made, the file is not.
+        QVERIFY(QFileInfo(path).dir().exists());
+        QVERIFY(!QFileInfo::exists(path));
+    }
+    void namingDialogPreviewsAndWritesTheTag()
+    {
+        CodecPreset preset = recording("%P");
+        FileNamingDialog dialog(nullptr, &preset, nullptr);
+        dialog.show();
+        auto* tag = dialog.findChild<QLineEdit*>("fileTag");
+        auto* name = dialog.findChild<QLabel*>("fileName");
+        QCOMPARE(name->text(), QStringLiteral("Main.mp4"));
+        QVERIFY(dialog.findChild<QWidget*>("codecContainer")->isVisible());
+        tag->selectAll();
+        QTest::keyClicks(tag, "%P %C");
+        // The caller's record changes as the operator types; callers wanting undo pass a copy.
+        QCOMPARE(name->text() + " / " + preset.local().fileTag, QStringLiteral("Main H.264.mp4 / %P %C"));
+        dialog.findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Ok)->click();
+        QVERIFY(!dialog.isVisible() && dialog.result() == QDialog::Accepted && dialog.fileTag() == "%P %C");
+
+        Snapshot shot = grab(1, QString());
+        FileNamingDialog grabs(nullptr, nullptr, &shot);
+        grabs.show();
+        QCOMPARE(grabs.findChild<QLabel*>("fileName")->text(), QStringLiteral("Untitled.png")); // empty still previews
+        QVERIFY(!grabs.findChild<QWidget*>("codecContainer")->isVisible()); // codec tokens are for recordings
+        grabs.findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Cancel)->click();
+        QVERIFY(!grabs.isVisible() && grabs.result() == QDialog::Rejected);
+    }
 };
 
-QTEST_GUILESS_MAIN(TestFileTag)
+QTEST_MAIN(TestFileTag)
 #include "tst_filetag.moc"

@@ -5,7 +5,6 @@
 #include "stores/codecmanager.h"
 #include "stores/streamingmanager.h"
 
-#include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -22,17 +21,13 @@ public:
     TempStores& operator=(const TempStores&) = delete;
 
     bool isValid() const;
-    QString root() const;
-    QString codecDir() const;
-    QString serverDir() const;
-    ContentsSettings settings() const;
+    QString root() const { return m_dir.path(); }
+    QString codecDir() const { return settings().codecPresetPath(); }
+    QString serverDir() const { return settings().serverPresetPath(); }
+    ContentsSettings settings() const { return ContentsSettings::underDirectory(m_dir.path()); }
 
     CodecManager& codecManager() { return *m_codecManager; }
     StreamingManager& streamingManager() { return *m_streamingManager; }
-
-    // Writes raw bytes as a file of a store directory (for hand-made presets); returns its path.
-    QString writeCodecFile(const QString& fileName, const QByteArray& contents) const;
-    QString writeServerFile(const QString& fileName, const QByteArray& contents) const;
 
 private:
     QTemporaryDir m_dir;
