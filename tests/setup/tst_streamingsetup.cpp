@@ -37,6 +37,7 @@ QJsonObject storedRow()
         {"Provider", "Custom"}, {"ServerName", "Stage SRT"}, {"PageName", ""}, {"ChannelName", ""},
         {"Mode", "caller"}, {"Port", 9000}, {"Latency", 250}, {"Passphrase", "0123456789ab"},
         {"KeyLength", 24}, {"StreamID", "stage"}, {"Filter", "fec,cols:20,rows:20"},
+        {"Save", true}, {"Path", "/srv/rec"}, {"FileTag", "%P"}, {"ContainerName", "mkv"}, {"SplitTime", 3600},
     };
 }
 
