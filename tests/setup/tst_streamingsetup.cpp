@@ -14,7 +14,8 @@
 namespace {
 
 const QStringList sources{"PGM", "PGM(Clean)", "PVW", "BUS A", "BUS B", "BUS A+B", "PGM+A", "PGM+B", "PGM+A+B"};
-const QStringList services{"Smashcast API", "Facebook", "YouTube", "Twitch", "Twitter", "Mixer", "Restream", "Custom", ""};
+const QStringList services{"Smashcast API", "Facebook", "YouTube", "Twitch", "Twitter", "Mixer", "Restream", "Custom", "",
+                           "YouTube (sign in)", "Facebook (sign in)", "Twitch (sign in)"};
 
 Channel server(const QString& title, const QString& url, const QString& key, int port = 0)
 {
