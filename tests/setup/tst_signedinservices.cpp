@@ -44,12 +44,9 @@ void serveServices(HttpServer& server)
         {"GET /youtube/v3/videoCategories", R"({"items":[{"id":"17","snippet":{"title":"Sports","assignable":true}},)"
                                             R"({"id":"18","snippet":{"title":"Shorts","assignable":false}}]})"},
         {"POST /youtube/v3/liveBroadcasts", R"({"id":"b9","snippet":{"channelId":"UC1","title":"Cup final","description":"Live"}})"},
-        {"POST /youtube/v3/liveStreams", R"({"id":"s9","cdn":{}})"},
-        {"POST /youtube/v3/liveBroadcasts/bind", R"({"id":"b9"})"},
-        {"PUT /youtube/v3/videos", R"({"id":"b1"})"},
-        {"PUT /youtube/v3/liveBroadcasts", R"({"id":"b1"})"},
-        {"DELETE /youtube/v3/liveBroadcasts", "{}"},
-        {"GET /o/oauth2/revoke", "{}"},
+        {"POST /youtube/v3/liveStreams", R"({"id":"s9","cdn":{}})"}, {"POST /youtube/v3/liveBroadcasts/bind", R"({"id":"b9"})"},
+        {"PUT /youtube/v3/videos", R"({"id":"b1"})"}, {"PUT /youtube/v3/liveBroadcasts", R"({"id":"b1"})"},
+        {"DELETE /youtube/v3/liveBroadcasts", "{}"}, {"GET /o/oauth2/revoke", "{}"},
 
         {"GET /v2.8/oauth/access_token", R"({"access_token":"fb-SECRET-user","token_type":"bearer"})"},
         {"GET /v2.8/me/", R"({"accounts":{"data":[{"access_token":"fb-SECRET-page","category":"Sports","name":"Club Page",)"
@@ -66,8 +63,7 @@ void serveServices(HttpServer& server)
                            R"({"status":"LIVE_NOW","id":"402","title":"Page show",)"
                            R"("stream_url":"rtmps://live-api-s.facebook.com:443/rtmp/402?s=1&a=fb-SECRET-pagekey"}]},"id":"200"})"},
         {"POST /v2.8/100/live_videos", R"({"id":"403","stream_url":"rtmps://x/rtmp/403?a=3"})"},
-        {"POST /v2.8/402", R"({"success":true})"},
-        {"DELETE /v3.0/100/permissions", R"({"success":true})"},
+        {"POST /v2.8/402", R"({"success":true})"}, {"DELETE /v3.0/100/permissions", R"({"success":true})"},
 
         // Not sorted, and one template without the key placeholder.
         {"GET /kraken/ingests", R"({"ingests":[{"_id":24,"name":"EU: Amsterdam, NL","default":false,)"
@@ -87,11 +83,6 @@ void keepLine(QtMsgType type, const QMessageLogContext& context, const QString& 
     if (type != QtDebugMsg && type != QtInfoMsg && previousHandler)
         previousHandler(type, context, text);
 }
-void everyCategory(QLoggingCategory* category)
-{
-    for (QtMsgType type : {QtDebugMsg, QtInfoMsg, QtWarningMsg})
-        category->setEnabled(type, true);
-}
 
 } // namespace
 
@@ -103,7 +94,7 @@ private slots:
     {
         startFixture("tst_signedinservices");
         QLocale::setDefault(QLocale(QStringLiteral("en_US")));
-        QLoggingCategory::installFilter(everyCategory);
+        QLoggingCategory::installFilter([](QLoggingCategory* all) { all->setEnabled(QtDebugMsg, true); });
         previousHandler = qInstallMessageHandler(keepLine);
     }
     void init()
