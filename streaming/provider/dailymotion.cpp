@@ -23,6 +23,9 @@ bool DailyMotion::authorize(const QUrl& redirect)
 {
     const QString tag = QStringLiteral("authorize");
     if (redirect.isEmpty()) {
+        if (m_clientId.isEmpty() || m_clientSecret.isEmpty())
+            return refuseUnconfigured({ServiceConfig::settingsKey(ServiceConfig::DailyMotionClientId),
+                                       ServiceConfig::settingsKey(ServiceConfig::DailyMotionClientSecret)});
         const QUrl page = ServiceConfig::url(ServiceConfig::DailyMotionWeb,
                                              QStringLiteral("/oauth/authorize?response_type=code&client_id=%1&redirect_uri=")
                                                      .arg(m_clientId)

@@ -188,8 +188,10 @@ QJsonObject Provider::waitForReply(QNetworkReply* reply, const char* method, con
         return {};
     }
     const QByteArray body = guard->readAll();
+    // Not errorString(): it repeats the whole address, and tokens travel in queries.
     if (guard->error() != QNetworkReply::NoError)
-        qCInfo(lcProvider) << m_name << method << url.path() << "answered" << guard->errorString();
+        qCInfo(lcProvider) << m_name << method << url.path() << "answered"
+                           << guard->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() << guard->error();
     guard->deleteLater();
 
     QJsonParseError error{};
@@ -242,6 +244,21 @@ bool Provider::unexpectedReply(const QString& tag)
 void Provider::setLastError(const QString& tag, const QString& detail)
 {
     m_lastError = tag + QLatin1Char(',') + detail;
+}
+
+bool Provider::refuseUnconfigured(const QStringList& emptySettings)
+{
+    setLastError(m_name, tr("Signing in to %1 is not configured for this installation.").arg(m_name));
+    qCWarning(lcProvider).noquote() << m_name << "has no registered client; set" << emptySettings.join(QLatin1String(", "))
+                                    << "(docs/deployment.md)";
+    return false;
+}
+
+QNetworkRequest Provider::jsonRequest(const QUrl& url)
+{
+    QNetworkRequest request(url);
+    request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
+    return request;
 }
 
 QNetworkRequest Provider::formRequest(const QUrl& url)

@@ -11,6 +11,7 @@
 #include <QObject>
 #include <QPixmap>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
 class QNetworkReply;
@@ -116,6 +117,9 @@ protected:
     // For a reply that lacks what the request should return: sets lastError and gives false.
     bool unexpectedReply(const QString& tag);
     void setLastError(const QString& tag, const QString& detail);
+    // For a sign-in this installation has no registered client for (the named settings are
+    // empty): tells the operator so in lastError, logs the settings, gives false.
+    bool refuseUnconfigured(const QStringList& emptySettings);
 
     ViewInterface* view() const { return m_view; }
     void addFeatures(quint32 features) { m_features |= features; }
@@ -123,6 +127,8 @@ protected:
 
     // A request whose body is a form ("application/x-www-form-urlencoded").
     static QNetworkRequest formRequest(const QUrl& url);
+    // A request whose body is compact JSON ("application/json").
+    static QNetworkRequest jsonRequest(const QUrl& url);
     // A form or path value, percent-encoded.
     static QString encoded(const QString& value);
 

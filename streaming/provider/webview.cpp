@@ -4,6 +4,7 @@
 #include "browser/cefmanager.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QLoggingCategory>
 #include <QMutexLocker>
 #include <QPainter>
@@ -36,8 +37,19 @@ WebView::WebView(QWidget* parent)
     m_noBrowserLabel->setWordWrap(true);
     m_noBrowserLabel->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_noBrowserLabel->setTextFormat(Qt::PlainText);
+    // ...and hands back the address that browser ended on (the sign-in's redirect).
+    m_pastedAddress = new QLineEdit(this);
+    m_pastedAddress->setObjectName(QStringLiteral("pastedAddress"));
+    m_pastedAddress->setPlaceholderText(tr("Paste the address the web browser ended on and press Enter"));
+    connect(m_pastedAddress, &QLineEdit::returnPressed, this, [this] {
+        const QString address = m_pastedAddress->text().trimmed();
+        m_pastedAddress->clear();
+        if (!address.isEmpty())
+            emit urlChanged(address);
+    });
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_noBrowserLabel);
+    layout->addWidget(m_pastedAddress);
     updateNoBrowserText();
 }
 
@@ -179,6 +191,7 @@ void WebView::updateNoBrowserText()
 {
     const bool engine = CefManager::instance()->hasEngine();
     m_noBrowserLabel->setVisible(!engine);
+    m_pastedAddress->setVisible(!engine && !m_url.isEmpty());
     if (engine)
         return;
     QString text = tr("No web browser is available on this system.");

@@ -9,9 +9,12 @@
 #include <QWidget>
 
 class QLabel;
+class QLineEdit;
 class QUrl;
 
 // Shows a page rendered by the host's off-screen browser and forwards input to it.
+// Without a browser engine it shows the address to open elsewhere and takes the address
+// that browser ended on, pasted by the operator, as the page's own (urlChanged).
 // Frames may arrive on the browser's own thread; they are copied under m_frameMutex
 // and painted on the GUI thread.
 class WebView : public QWidget, public ICefCaptureCallback
@@ -59,4 +62,5 @@ private:
     QByteArray m_frameBytes;
     QImage m_frame;
     QLabel* m_noBrowserLabel = nullptr;
+    QLineEdit* m_pastedAddress = nullptr;
 };

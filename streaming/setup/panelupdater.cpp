@@ -110,6 +110,12 @@ void PanelUpdater::updateChannels(Provider* provider, bool keepSelection)
         for (const PageInfo& page : provider->pages())
             f->pageSelect->addItem(page.name, page.id);
         selectText(f->pageSelect, previous);
+        // New events go to the page shown.
+        const int page = f->pageSelect->currentIndex();
+        if (page >= 0 && page < provider->pages().size()) {
+            provider->setPageId(provider->pages().at(page).id);
+            provider->setPageToken(provider->pages().at(page).accessToken);
+        }
     }
     {
         const QSignalBlocker blocker(f->channelSelect);

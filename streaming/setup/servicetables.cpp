@@ -164,6 +164,7 @@ struct ServiceRow {
     int serversKey; // the override of the table
     Table servers;
     const char* icon;
+    const char* label = nullptr; // when it differs from the name
 };
 
 const ServiceRow serviceRows[] = {
@@ -182,6 +183,14 @@ const ServiceRow serviceRows[] = {
     {"Restream", ServiceTables::Kind::Simple, simpleWithServers, ServiceConfig::RestreamHome, noKey,
      ServiceConfig::RestreamServers, table(restreamRows, {"rtmp", 0, "/live"}), ":/resources/service.png"},
     {"Custom", ServiceTables::Kind::Custom, 0, noKey, noKey, noKey, {nullptr, 0, {}}, ":/resources/custom.png"},
+    // The services' own APIs, after the built-in entries: signed in, they list the
+    // account's channels. Names as the providers give them, labels that tell them apart.
+    {"YouTube API", ServiceTables::Kind::YouTube, 0, noKey, noKey, noKey, {nullptr, 0, {}}, ":/resources/youtube.png",
+     QT_TRANSLATE_NOOP("StreamingSetup", "YouTube (sign in)")},
+    {"Facebook", ServiceTables::Kind::Facebook, 0, noKey, noKey, noKey, {nullptr, 0, {}}, ":/resources/facebook.png",
+     QT_TRANSLATE_NOOP("StreamingSetup", "Facebook (sign in)")},
+    {"Twitch", ServiceTables::Kind::Twitch, 0, noKey, noKey, noKey, {nullptr, 0, {}}, ":/resources/twitch.png",
+     QT_TRANSLATE_NOOP("StreamingSetup", "Twitch (sign in)")},
 };
 
 QList<LabelPair> serversOf(const Table& table)
@@ -223,6 +232,7 @@ QList<Service> services()
         if (!override.isEmpty() && parseServerTable(override, &replaced))
             service.servers = replaced;
         service.icon = QString::fromLatin1(row.icon);
+        service.label = row.label ? QCoreApplication::translate("StreamingSetup", row.label) : service.name;
         list.append(service);
     }
     return list;

@@ -17,6 +17,7 @@ namespace ServiceTables {
 
 enum class Kind {
     Hitbox, // the Smashcast API provider
+    YouTube, Facebook, Twitch, // the services' APIs, signed in through their web pages
     Simple, // no API: a fixed URL or a server table and a pasted key
     Custom, // the user's own servers
 };
@@ -29,9 +30,11 @@ struct Service {
     QString streamUrl;         // fixed ingest address, when the service has one
     QList<LabelPair> servers;  // (label, URL) in table order
     QString icon;              // resource path of the list icon
+    QString label;             // shown in the service list; the name unless two entries share it
 };
 
-// Every built-in service, deployment overrides applied.
+// Every service of the list, deployment overrides applied: the built-in entries up to
+// "Custom", then the services' APIs.
 QList<Service> services();
 // The table compiled in for a service (no overrides); empty for an unknown name.
 QList<LabelPair> builtInServers(const QString& service);

@@ -1,6 +1,8 @@
 #include "setup/streamingpresetjson.h"
 
 #include "codec/codecjson.h"
+#include "codec/codectables.h"
+#include "records/licensemodel.h"
 #include "setup/servicetables.h"
 
 #include <QJsonArray>
@@ -52,6 +54,7 @@ QMap<int, int> mapOf(const QJsonObject& object, QLatin1String typeKey, QLatin1St
 QJsonObject StreamingPresetJson::toJson(const CodecPreset& preset)
 {
     const CodecModel::Streaming& s = preset.streaming();
+    const CodecModel::Local& local = preset.local();
     QJsonObject o{
         {videoTypeKey, keysOf(preset.videoSource())},
         {videoIndexKey, valuesOf(preset.videoSource())},
@@ -74,6 +77,12 @@ QJsonObject StreamingPresetJson::toJson(const CodecPreset& preset)
         {QStringLiteral("KeyLength"), s.keyLength},
         {QStringLiteral("StreamID"), s.streamId},
         {QStringLiteral("Filter"), s.filter},
+        // "Save": the stream is recorded to a file as well, where and how the row says.
+        {QStringLiteral("Save"), local.enabled},
+        {QStringLiteral("Path"), local.path},
+        {QStringLiteral("FileTag"), local.fileTag},
+        {QStringLiteral("ContainerName"), preset.container().name},
+        {QStringLiteral("SplitTime"), local.splitTime},
     };
     CodecJson::write(o, preset);
     return o;
@@ -109,6 +118,13 @@ CodecPreset StreamingPresetJson::fromJson(const QJsonObject& o)
     s.keyLength = number("KeyLength");
     s.streamId = text("StreamID");
     s.filter = text("Filter");
-    preset.local().enabled = false;
+
+    CodecModel::Local& local = preset.local();
+    local.enabled = o.value(QLatin1String("Save")).toBool();
+    local.path = text("Path");
+    local.fileTag = text("FileTag");
+    local.splitTime = number("SplitTime");
+    preset.container().name = text("ContainerName");
+    preset.container().id = CodecTables::licenseModel().containers().key(preset.container().name, 0);
     return preset;
 }

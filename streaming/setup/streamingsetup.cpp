@@ -6,7 +6,6 @@
 #include "codec/codectables.h"
 #include "engine/quillonengine.h"
 #include "interface/outputinterface.h"
-#include "provider/custom.h"
 #include "provider/hitbox.h"
 #include "provider/savedaccount.h"
 #include "provider/simpleprovider.h"
@@ -20,6 +19,7 @@
 #include "setup/customservers.h"
 #include "setup/duplicatestreamcheck.h"
 #include "setup/panelupdater.h"
+#include "setup/servicelist.h"
 #include "setup/servicetables.h"
 #include "setup/streamingpresetjson.h"
 #include "setup/webdialog.h"
@@ -161,6 +161,7 @@ StreamingSetup::StreamingSetup(QWidget* parent, OutputInterface* host)
         splash->move(screen->availableGeometry().center() - splash->rect().center());
 
     m_panel = std::make_unique<PanelUpdater>(ui->baseWidget);
+    m_services = std::make_unique<ServiceList>();
     m_customServers = std::make_unique<CustomServers>(ui->baseWidget->form()->customSelect);
 
     ui->addPreset->setEnabled(false);
@@ -187,25 +188,7 @@ void StreamingSetup::initializeProvider()
         ui->baseWidget->form()->providerSelect->clear();
     }
     qDeleteAll(providers);
-    providers.clear();
-    m_serviceIcons.clear();
-    for (const ServiceTables::Service& service : ServiceTables::services()) {
-        m_serviceIcons.insert(service.name, service.icon);
-        switch (service.kind) {
-        case ServiceTables::Kind::Hitbox:
-            providers.append(new Hitbox(this));
-            break;
-        case ServiceTables::Kind::Custom:
-            providers.append(new Custom(this));
-            break;
-        case ServiceTables::Kind::Simple:
-            providers.append(new SimpleProvider(this, service.features, service.name, service.homeUrl,
-                                                service.streamUrl, service.servers));
-            break;
-        }
-        // A service the operator signed in to comes back signed in, without a request.
-        SavedAccount::restore(providers.last());
-    }
+    providers = m_services->create(this);
     if (m_mapper) // the panel is built already: it lists the new providers
         fillServiceList();
 }
@@ -254,19 +237,8 @@ void StreamingSetup::initializeUi()
 void StreamingSetup::fillServiceList()
 {
     QComboBox* list = ui->baseWidget->form()->providerSelect;
-    {
-        const QSignalBlocker blocker(list);
-        list->clear();
-        for (Provider* provider : qAsConst(providers)) {
-            const QIcon icon = provider->icon().isNull() ? QIcon(m_serviceIcons.value(provider->name()))
-                                                         : QIcon(provider->icon());
-            list->addItem(icon, provider->name(), QVariant::fromValue(provider));
-            if (provider->name() == ServiceTables::customName())
-                list->insertSeparator(list->count());
-        }
-        if (!providers.isEmpty())
-            list->setCurrentText(providers.last()->name());
-    }
+    m_services->fill(list, providers);
+    ServiceList::selectDefault(list);
     signalMapper(ServiceId);
 }
 
@@ -359,8 +331,9 @@ void StreamingSetup::signalMapper(int id)
             errorMessage();
         else if (result == ChannelEvents::Result::Done)
             SavedAccount::sync(*current);
+        // A new event may bring a stream, and with it servers, of its own.
         if (result != ChannelEvents::Result::Cancelled)
-            updateChannelUi();
+            updateUi(true);
         break;
     }
     case SharingOpenId:
@@ -393,9 +366,18 @@ void StreamingSetup::authorizeProvider(Provider* current)
         setBusy(true);
         const bool revoked = current->revoke();
         setBusy(false);
-        if (!revoked)
+        if (!revoked) {
             errorMessage();
-        SavedAccount::sync(*current); // forgotten once the service took it back
+            // A token that expired can no longer be given back, but the operator still wants it gone.
+            if (MessageBox::question(this, tr("Streaming"),
+                                     tr("The service did not take the sign-in back. Forget it on this computer anyway?"),
+                                     QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+                == QMessageBox::Yes) {
+                current->setAccessToken(QString());
+                current->setLoggedIn(false);
+            }
+        }
+        SavedAccount::sync(*current); // forgotten once it is no longer signed in
         updateUi(true);
     } else if (usesPasswordLogin(current)) {
         AuthorizeDialog dialog(this);
@@ -425,7 +407,8 @@ void StreamingSetup::reloadChannels(Provider* current)
         errorMessage();
     else if (SavedAccount::isSignedIn(*current))
         SavedAccount::sync(*current);
-    updateChannelUi();
+    // What a failed load left is shown as it is: no list from before passes for the service's.
+    updateUi(true);
 }
 
 void StreamingSetup::setBusy(bool busy)
@@ -524,6 +507,8 @@ void StreamingSetup::webAuthorizeUrlChange(const QUrl& url)
     splash->start();
     if (!current->authorize(url)) {
         errorMessage();
+        updateUi(false);
+        QMetaObject::invokeMethod(this, [this] { signalMapper(RefreshId); }, Qt::QueuedConnection);
     } else if (current->isAuthorized()) {
         SavedAccount::sync(*current);
         enableUi();
@@ -555,8 +540,11 @@ bool StreamingSetup::isEncoding() const
 
 void StreamingSetup::reloadPresets()
 {
-    if (!providers.isEmpty())
-        ui->baseWidget->form()->providerSelect->setCurrentText(providers.last()->name());
+    QComboBox* list = ui->baseWidget->form()->providerSelect;
+    const int before = list->currentIndex();
+    ServiceList::selectDefault(list);
+    if (list->currentIndex() != before)
+        signalMapper(ServiceId);
     ui->presetName->clear();
     loadSetting();
 }
@@ -583,7 +571,10 @@ void StreamingSetup::applyRow(const CodecPreset& preset)
 {
     Ui::BaseWidget* f = ui->baseWidget->form();
     const CodecModel::Streaming& s = preset.streaming();
-    f->providerSelect->setCurrentText(s.provider);
+    // The simple entry and the one that signs in may share a name; a signed-in row names the latter.
+    const int service = ServiceList::indexOf(f->providerSelect, s.provider, s.authorized);
+    if (service >= 0)
+        f->providerSelect->setCurrentIndex(service);
     m_panel->selectStored(provider(), s);
     SourceLists::selectSource(ui->videoSourceList, preset.videoSource());
     SourceLists::selectSource(ui->audioSourceList, preset.audioSource());

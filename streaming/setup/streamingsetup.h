@@ -6,7 +6,6 @@
 #include "streaming_export.h"
 
 #include <QDialog>
-#include <QHash>
 #include <QList>
 #include <QMetaObject>
 #include <QString>
@@ -18,6 +17,7 @@ class CustomServers;
 class EncoderRows;
 class OutputInterface;
 class PanelUpdater;
+class ServiceList;
 class Provider;
 class QNetworkAccessManager;
 class QSignalMapper;
@@ -107,7 +107,7 @@ private:
     QSignalMapper* m_mapper = nullptr;
     QTimer* m_bandwidthWatch = nullptr;
     QMetaObject::Connection m_webConnection;
-    QHash<QString, QString> m_serviceIcons; // service name -> list icon
+    std::unique_ptr<ServiceList> m_services;
     std::unique_ptr<PanelUpdater> m_panel;
     std::unique_ptr<CustomServers> m_customServers;
     std::unique_ptr<EncoderRows> m_rows;

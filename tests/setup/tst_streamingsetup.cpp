@@ -14,7 +14,8 @@
 namespace {
 
 const QStringList sources{"PGM", "PGM(Clean)", "PVW", "BUS A", "BUS B", "BUS A+B", "PGM+A", "PGM+B", "PGM+A+B"};
-const QStringList services{"Smashcast API", "Facebook", "YouTube", "Twitch", "Twitter", "Mixer", "Restream", "Custom", ""};
+const QStringList services{"Smashcast API", "Facebook", "YouTube", "Twitch", "Twitter", "Mixer", "Restream", "Custom", "",
+                           "YouTube (sign in)", "Facebook (sign in)", "Twitch (sign in)"};
 
 Channel server(const QString& title, const QString& url, const QString& key, int port = 0)
 {
@@ -37,6 +38,7 @@ QJsonObject storedRow()
         {"Provider", "Custom"}, {"ServerName", "Stage SRT"}, {"PageName", ""}, {"ChannelName", ""},
         {"Mode", "caller"}, {"Port", 9000}, {"Latency", 250}, {"Passphrase", "0123456789ab"},
         {"KeyLength", 24}, {"StreamID", "stage"}, {"Filter", "fec,cols:20,rows:20"},
+        {"Save", true}, {"Path", "/srv/rec"}, {"FileTag", "%P"}, {"ContainerName", "mkv"}, {"SplitTime", 3600},
     };
 }
 

@@ -3,6 +3,7 @@
 #include "support/fakecefmanager.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
@@ -183,6 +184,10 @@ private slots:
         QTest::mouseClick(&view, Qt::LeftButton);
         QTest::keyClick(&view, Qt::Key_A);
         QCOMPARE(urls.count(), 0);
+        // The address the other browser ended on comes back as the page's.
+        QTest::keyClicks(view.findChild<QLineEdit*>("pastedAddress"), " http://localhost/cb?code=1 ");
+        QTest::keyClick(view.findChild<QLineEdit*>("pastedAddress"), Qt::Key_Return);
+        QCOMPARE(urls.value(0).value(0).toString(), QStringLiteral("http://localhost/cb?code=1"));
         view.loadUrl(QUrl());
         QCOMPARE(label->text(), none);
     }

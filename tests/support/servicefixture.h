@@ -8,6 +8,33 @@
 #include <QStandardPaths>
 #include <QStringList>
 
+// Each route is "METHOD /path", answered with status 200 and the JSON text.
+inline void serveJson(HttpServer& server, const QList<QPair<QString, QByteArray>>& replies)
+{
+    for (const auto& [route, json] : replies)
+        server.onJson(route.section(' ', 0, 0).toLatin1(), route.section(' ', 1), json);
+}
+
+// One line per request: method and target, then " | " and the Authorization and Accept
+// headers if any, then " | form " and a form body (or " | <content type> " and another body).
+inline QStringList requestLines(const HttpServer& server, int from = 0)
+{
+    QStringList lines;
+    for (const HttpServer::Request& request : server.requests().mid(from)) {
+        QString line = QString::fromLatin1(request.method + ' ' + request.target);
+        for (const char* header : {"Authorization", "Accept"})
+            if (!request.header(header).isEmpty())
+                line += " | " + QString::fromLatin1(request.header(header));
+        if (!request.body.isEmpty()) {
+            const QByteArray type = request.header("Content-Type");
+            line += " | " + QString::fromLatin1(type == "application/x-www-form-urlencoded" ? "form" : type);
+            line += ' ' + QString::fromUtf8(request.body);
+        }
+        lines << line;
+    }
+    return lines;
+}
+
 // What a provider sees in a test: every service host pointed at one local server,
 // and a view that lends its network manager. One per test function.
 struct ServiceFixture {
@@ -18,31 +45,8 @@ struct ServiceFixture {
     }
     ~ServiceFixture() { ServiceEnvironment::reset(); }
 
-    // Each route is "METHOD /path", answered with status 200 and the JSON text.
-    void serve(const QList<QPair<QString, QByteArray>>& replies)
-    {
-        for (const auto& [route, json] : replies)
-            server.onJson(route.section(' ', 0, 0).toLatin1(), route.section(' ', 1), json);
-    }
-
-    // One line per request: method and target, then " | " and the Authorization header
-    // if any, then " | form " and a form body (or " | <content type> " and another body).
-    QStringList requestLines() const
-    {
-        QStringList lines;
-        for (const HttpServer::Request& request : server.requests()) {
-            QString line = QString::fromLatin1(request.method + ' ' + request.target);
-            if (!request.header("Authorization").isEmpty())
-                line += " | " + QString::fromLatin1(request.header("Authorization"));
-            if (!request.body.isEmpty()) {
-                const QByteArray type = request.header("Content-Type");
-                line += " | " + QString::fromLatin1(type == "application/x-www-form-urlencoded" ? "form" : type);
-                line += ' ' + QString::fromUtf8(request.body);
-            }
-            lines << line;
-        }
-        return lines;
-    }
+    void serve(const QList<QPair<QString, QByteArray>>& replies) { serveJson(server, replies); }
+    QStringList requestLines() const { return ::requestLines(server); }
 
     HttpServer server;
     FakeView view; // declared last: it goes first, with the replies its manager still holds
