@@ -128,6 +128,12 @@
         <translation>Ouvrir l&apos;URL</translation>
     </message>
     <message>
+        <location filename="../streaming/provider/youtube.cpp" line="+197"/>
+        <source>Main Server</source>
+        <translation>Serveur principal</translation>
+    </message>
+    <message>
+        <location line="+1"/>
         <location filename="../streaming/setup/servicetables.cpp" line="+31"/>
         <source>Backup Server</source>
         <translation>Serveur de secours</translation>
@@ -382,7 +388,7 @@
 <context>
     <name>DailyMotion</name>
     <message>
-        <location filename="../streaming/provider/dailymotion.cpp" line="+36"/>
+        <location filename="../streaming/provider/dailymotion.cpp" line="+39"/>
         <source>The authorization page went to an address that is not valid.</source>
         <translation>La page de connexion a redirigé vers une adresse non valide.</translation>
     </message>
@@ -528,6 +534,14 @@
     </message>
 </context>
 <context>
+    <name>Facebook</name>
+    <message>
+        <location filename="../streaming/provider/facebook.cpp" line="+154"/>
+        <source>Untitled</source>
+        <translation>Sans titre</translation>
+    </message>
+</context>
+<context>
     <name>FileNamingDialog</name>
     <message>
         <location filename="../streaming/stores/filenamingdialog.ui" line="+14"/>
@@ -657,9 +671,14 @@
 <context>
     <name>Provider</name>
     <message>
-        <location filename="../streaming/provider/provider.cpp" line="+237"/>
+        <location filename="../streaming/provider/provider.cpp" line="+239"/>
         <source>The service sent a reply that could not be read.</source>
         <translation>Le service a envoyé une réponse illisible.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Signing in to %1 is not configured for this installation.</source>
+        <translation>La connexion à %1 n&apos;est pas configurée pour cette installation.</translation>
     </message>
 </context>
 <context>
@@ -1032,7 +1051,8 @@
     <message>
         <location filename="../streaming/setup/streamingsetup.ui" line="+14"/>
         <location line="+7"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+621"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+372"/>
+        <location line="+240"/>
         <source>Streaming</source>
         <translation>Streaming</translation>
     </message>
@@ -1074,7 +1094,7 @@
     </message>
     <message>
         <location line="+20"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-479"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-470"/>
         <source>Edit Naming</source>
         <translation>Modifier le nommage</translation>
     </message>
@@ -1107,13 +1127,13 @@
     </message>
     <message>
         <location line="+13"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+503"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+494"/>
         <source>Untitled</source>
         <translation>Sans titre</translation>
     </message>
     <message>
         <location line="+7"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-397"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-405"/>
         <location line="+1"/>
         <source>Add Presets</source>
         <translation>Ajouter des préréglages</translation>
@@ -1127,18 +1147,18 @@
     </message>
     <message>
         <location line="+32"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+362"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+370"/>
         <location line="+24"/>
         <source>Preset</source>
         <translation>Préréglage</translation>
     </message>
     <message>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-524"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-515"/>
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
     <message>
-        <location line="+202"/>
+        <location line="+174"/>
         <source>Deauthorize</source>
         <translation>Déconnexion</translation>
     </message>
@@ -1148,7 +1168,12 @@
         <translation>Connexion</translation>
     </message>
     <message>
-        <location line="+298"/>
+        <location line="+86"/>
+        <source>The service did not take the sign-in back. Forget it on this computer anyway?</source>
+        <translation>Le service n&apos;a pas révoqué la connexion. L&apos;oublier quand même sur cet ordinateur&#xa0;?</translation>
+    </message>
+    <message>
+        <location line="+231"/>
         <source>Check the maximum number of streams.</source>
         <translation>Vérifiez le nombre maximal de streams.</translation>
     </message>
@@ -1172,6 +1197,21 @@
         <source>Open Directory</source>
         <translation>Choisir un dossier</translation>
     </message>
+    <message>
+        <location filename="../streaming/setup/servicetables.cpp" line="+158"/>
+        <source>YouTube (sign in)</source>
+        <translation>YouTube (connexion)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Facebook (sign in)</source>
+        <translation>Facebook (connexion)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Twitch (sign in)</source>
+        <translation>Twitch (connexion)</translation>
+    </message>
 </context>
 <context>
     <name>WebDialog</name>
@@ -1184,7 +1224,12 @@
 <context>
     <name>WebView</name>
     <message>
-        <location filename="../streaming/provider/webview.cpp" line="+184"/>
+        <location filename="../streaming/provider/webview.cpp" line="+43"/>
+        <source>Paste the address the web browser ended on and press Enter</source>
+        <translation>Collez l&apos;adresse à laquelle le navigateur web est arrivé, puis appuyez sur Entrée</translation>
+    </message>
+    <message>
+        <location line="+154"/>
         <source>No web browser is available on this system.</source>
         <translation>Aucun navigateur web n&apos;est disponible sur ce système.</translation>
     </message>
