@@ -40,3 +40,6 @@ c -fill none -stroke '#9a9a9a' -strokewidth 5 -draw "ellipse 32,32 26,15 0,360" 
 # refresh: an open ring with an arrow head
 c -fill none -stroke '#9a9a9a' -strokewidth 6 -draw "ellipse 32,32 20,20 40,315" \
   -stroke none -fill '#9a9a9a' -draw "polygon 53,8 36,22 56,28" appicons/refresh.png
+# output: a monitor on its stand
+c -fill '#7a7a7a' -draw "roundrectangle 4,8 60,46 4,4" -fill '#d0d0d0' -draw "rectangle 9,13 55,41" \
+  -fill '#7a7a7a' -draw "rectangle 28,46 36,54" -draw "rectangle 18,54 46,58" appicons/output.png

@@ -5,6 +5,7 @@
 #include "engine/quillonengine.h"
 #include "interface/fileoutputinterface.h"
 #include "quillon/activitylog.h"
+#include "quillon/playouthost.h"
 #include "quillon/presetseeder.h"
 #include "records/contentssettings.h"
 #include "stores/codecmanager.h"
@@ -20,7 +21,7 @@ const QString HostSession::projectFileName = QStringLiteral("project.json");
 const QString HostSession::seedMarkerFileName = QStringLiteral(".presets-seeded");
 
 HostSession::HostSession(const QString& dataDirectory, ActivityLog* log, QObject* parent)
-    : QObject(parent), m_data(dataDirectory), m_log(log)
+    : QObject(parent), m_data(dataDirectory), m_log(log), m_playout(std::make_unique<PlayoutHost>(log))
 {
     m_log->info(tr("Data folder: %1").arg(QDir::toNativeSeparators(m_data.path())));
     QString error;
@@ -92,6 +93,7 @@ void HostSession::openStores()
 void HostSession::openSetup()
 {
     m_setup = std::make_unique<FileOutputInterface>(m_data.filePath(setupFileName));
+    m_setup->setPlayoutHandler([this](OutputInfo* output, bool on) { return m_playout->playout(output, on); });
     const QString aside = m_setup->corruptFileKeptAs();
     if (!aside.isEmpty() && aside != m_setup->fileName()) {
         m_setupNotice = tr("Setup file damaged: kept as %1, defaults in use.").arg(QFileInfo(aside).fileName());

@@ -13,6 +13,7 @@
 class ActivityLog;
 class CodecManager;
 class FileOutputInterface;
+class PlayoutHost;
 class StreamingManager;
 
 // Everything the host keeps for one data location, made before any dialog: the licence
@@ -38,6 +39,8 @@ public:
     CodecManager& codecManager() { return *m_codecManager; }
     StreamingManager& streamingManager() { return *m_streamingManager; }
     FileOutputInterface& setup() { return *m_setup; }
+    // Starts and stops the playout and external outputs the dialogs ask for.
+    PlayoutHost& playout() { return *m_playout; }
 
     // The recording preset the file naming dialog edits: the stored codec preset first by label,
     // named "Program", written as mp4 with the recording default tag.
@@ -55,6 +58,7 @@ private:
 
     DataDirectory m_data;
     ActivityLog* m_log;
+    std::unique_ptr<PlayoutHost> m_playout;
     LicenseModel m_license;
     ProjectPreset m_project;
     std::unique_ptr<CodecManager> m_codecManager;

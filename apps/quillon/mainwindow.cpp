@@ -7,6 +7,7 @@
 #include "quillon/encodinglogformatter.h"
 #include "quillon/hostsession.h"
 #include "quillon/outputdialogregistry.h"
+#include "quillon/playouthost.h"
 #include "quillon/runninglineformatter.h"
 #include "stores/codecmanager.h"
 #include "stores/streamingmanager.h"
@@ -67,6 +68,7 @@ MainWindow::MainWindow(HostSession& session, QWidget* parent)
     connect(&session.setup(), &MemoryOutputInterface::encodingChangedNotified, this, &MainWindow::encodingChanged);
     connect(&QuillonEngine::instance(), &QuillonEngine::encodingRequested, this, &MainWindow::refreshRunning);
     connect(&QuillonEngine::instance(), &QuillonEngine::outputsChanged, this, &MainWindow::refreshRunning);
+    connect(&session.playout(), &PlayoutHost::changed, this, &MainWindow::refreshRunning);
     m_runningTimer.setInterval(1000);
     connect(&m_runningTimer, &QTimer::timeout, this, &MainWindow::refreshRunning);
     connect(&session.setup(), &MemoryOutputInterface::settingsChanged, this, [this](const QString& key) {
@@ -175,10 +177,12 @@ void MainWindow::refreshRunning()
             ui->runningList->addItem(tr("%1 - %2").arg(name, CodecManager::namingFromPreset(&preset)));
         }
     }
+    // Ticks only while an encoder runs.
+    const bool encoders = ui->runningList->count() > 0;
+    ui->runningList->addItems(m_session.playout().runningLines());
     if (ui->runningList->count() == 0)
         setPlaceholder(ui->runningList, tr("Nothing running"));
-    // Ticks only while something runs.
-    if (QuillonEngine::backend() && ui->runningList->count() > 0 && ui->runningList->item(0)->flags() != Qt::NoItemFlags)
+    if (QuillonEngine::backend() && encoders)
         m_runningTimer.start();
     else
         m_runningTimer.stop();

@@ -1,8 +1,11 @@
 #include "quillon/outputdialogregistry.h"
 
 #include "interface/fileoutputinterface.h"
+#include "output/outputsetup.h"
+#include "output/playoutsetup.h"
 #include "quillon/activitylog.h"
 #include "quillon/hostsession.h"
+#include "quillon/playouthost.h"
 #include "recording/recordingsetup.h"
 #include "setup/streamingsetup.h"
 #include "stores/filenamingdialog.h"
@@ -49,6 +52,29 @@ QDialog* createRecording(QWidget* parent, HostSession& session)
     return dialog;
 }
 
+// Playout outputs run on while the dialog is hidden, like streams and recordings.
+QDialog* createPlayout(QWidget* parent, HostSession& session)
+{
+    return new PlayoutSetup(parent, &session.setup());
+}
+
+void presentPlayout(QDialog* dialog)
+{
+    static_cast<PlayoutSetup*>(dialog)->open(false);
+    presentModeless(dialog);
+}
+
+// The console drives what an accepted dialog configured; with nothing configured it stops them.
+QDialog* createExternalOutput(QWidget* parent, HostSession& session)
+{
+    auto* dialog = new OutputSetup(parent, &session.setup());
+    dialog->reloadPresets();
+    QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, &session] {
+        session.playout().applyExternal(dialog->validCheck() ? dialog->outputInfos() : QList<OutputInfo>());
+    });
+    return dialog;
+}
+
 } // namespace
 
 const QList<OutputDialogRegistry::Entry>& OutputDialogRegistry::entries()
@@ -60,6 +86,10 @@ const QList<OutputDialogRegistry::Entry>& OutputDialogRegistry::entries()
          true, createRecording, presentModeless},
         {QStringLiteral("fileNaming"), QT_TR_NOOP("File Naming…"), QStringLiteral(":/resources/appicons/addfiles.png"),
          false, createFileNaming, {}},
+        {QStringLiteral("playout"), QT_TR_NOOP("Playout…"), QStringLiteral(":/resources/appicons/output.png"), true,
+         createPlayout, presentPlayout},
+        {QStringLiteral("externalOutput"), QT_TR_NOOP("External Output…"),
+         QStringLiteral(":/resources/appicons/output.png"), false, createExternalOutput, {}},
     };
     return list;
 }

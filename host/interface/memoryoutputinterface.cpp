@@ -40,10 +40,9 @@ void MemoryOutputInterface::playoutClosed(bool accepted)
 
 bool MemoryOutputInterface::playout(OutputInfo* output, bool on)
 {
-    Q_UNUSED(output)
     ++m_playoutCalls;
     emit playoutRequested(on);
-    return m_playoutResult;
+    return m_playoutHandler ? m_playoutHandler(output, on) : m_playoutResult;
 }
 
 void MemoryOutputInterface::replaceSettings(const QJsonObject& settings)

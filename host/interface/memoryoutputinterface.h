@@ -6,6 +6,8 @@
 #include <QList>
 #include <QObject>
 
+#include <functional>
+
 // Keeps the setup object in memory and records what the dialogs told the host.
 class HOST_EXPORT MemoryOutputInterface : public QObject, public OutputInterface
 {
@@ -32,6 +34,9 @@ public:
     int playoutCalls() const { return m_playoutCalls; }
     // What playout() answers; true unless a test wants a refusal.
     void setPlayoutResult(bool result) { m_playoutResult = result; }
+    // A host that drives outputs answers playout() itself; empty returns to the fixed answer.
+    using PlayoutHandler = std::function<bool(OutputInfo* output, bool on)>;
+    void setPlayoutHandler(PlayoutHandler handler) { m_playoutHandler = std::move(handler); }
     void clearEvents();
 
 signals:
@@ -49,4 +54,5 @@ private:
     QList<bool> m_playoutClosed;
     int m_playoutCalls = 0;
     bool m_playoutResult = true;
+    PlayoutHandler m_playoutHandler;
 };

@@ -17,4 +17,7 @@ struct OutputInfo {
     int videoSourceIndex = -1;
     int audioSourceType = 0;
     int audioSourceIndex = -1;
+
+    // The same output: kind and number are equal.
+    bool sameOutput(const OutputInfo& other) const { return kind == other.kind && number == other.number; }
 };

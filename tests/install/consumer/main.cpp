@@ -1,5 +1,8 @@
 // A host that finds the installed library with find_package and uses its exported classes.
 #include "interface/memoryoutputinterface.h"
+#include "output/displaylayout.h"
+#include "output/outputsetup.h"
+#include "output/playoutsetup.h"
 #include "recording/recordingsetup.h"
 #include "setup/streamingsetup.h"
 #include "stores/codecmanager.h"
@@ -21,7 +24,10 @@ int main(int argc, char** argv)
     recording.reloadPresets();
     StreamingSetup streaming(nullptr, &host);
     streaming.reloadPresets();
+    PlayoutSetup playout(nullptr, &host);
+    OutputSetup external(nullptr, &host);
+    const bool outputs = !playout.isEncoding() && !external.validCheck() && DisplayLayoutName(1, 0, true, true, false) == "CAM 1";
     // The singletons must be the same objects on both sides of the library boundary.
     const bool shared = CodecManager::getInstancePtr() == &codecs && StreamingManager::getInstancePtr() == &servers;
-    return shared && !recording.isEncoding() && !streaming.isEncoding() ? 0 : 1;
+    return shared && outputs && !recording.isEncoding() && !streaming.isEncoding() ? 0 : 1;
 }
