@@ -669,6 +669,270 @@
     </message>
 </context>
 <context>
+    <name>OutputLists</name>
+    <message>
+        <location filename="../streaming/output/outputlists.cpp" line="+35"/>
+        <source>Display %1 (%2x%3)</source>
+        <translation>Bildschirm %1 (%2x%3)</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>VirtualCam</source>
+        <translation>VirtualCam</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>(%1) %2</source>
+        <translation>(%1) %2</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source> - %1</source>
+        <translation> - %1</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>%1 kHz Stereo</source>
+        <translation>%1 kHz Stereo</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Disable</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>InternalKeyer</source>
+        <translation>Interner Keyer</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>ExternalKeyer</source>
+        <translation>Externer Keyer</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Enable</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+23"/>
+        <source>NONE</source>
+        <translation>KEINE</translation>
+    </message>
+    <message>
+        <location line="-21"/>
+        <source>PGM(Clean)</source>
+        <translation>PGM (Clean)</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Multiview %1</source>
+        <translation>Multiview %1</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>PGM Clean</source>
+        <translation>PGM Clean</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PGM Delay</source>
+        <translation>PGM verzögert</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>%1 (not found)</source>
+        <translation>%1 (nicht gefunden)</translation>
+    </message>
+</context>
+<context>
+    <name>OutputRow</name>
+    <message>
+        <location filename="../streaming/output/outputrow.cpp" line="+16"/>
+        <source>SDI %1</source>
+        <translation>SDI %1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>NDI %1</source>
+        <translation>NDI %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DISPLAY %1</source>
+        <translation>BILDSCHIRM %1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>AUDIO %1</source>
+        <translation>AUDIO %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>VIRTUAL CAM %1</source>
+        <translation>VIRTUELLE KAMERA %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>MULTIVIEW %1</source>
+        <translation>MULTIVIEW %1</translation>
+    </message>
+</context>
+<context>
+    <name>OutputSetup</name>
+    <message>
+        <location filename="../streaming/output/outputsetup.ui" line="+14"/>
+        <source>External Output</source>
+        <translation>Externe Ausgabe</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>Max Resolution:</source>
+        <translation>Max. Auflösung:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Max Output:</source>
+        <translation>Max. Ausgänge:</translation>
+    </message>
+    <message>
+        <location filename="../streaming/output/outputsetup.cpp" line="+24"/>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Max Resolution: %1x%2</source>
+        <translation>Max. Auflösung: %1x%2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Max Output: %1</source>
+        <translation>Max. Ausgänge: %1</translation>
+    </message>
+</context>
+<context>
+    <name>OutputWidget</name>
+    <message>
+        <location filename="../streaming/output/outputwidget.ui" line="+28"/>
+        <source>Output:</source>
+        <translation>Ausgang:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Video Source</source>
+        <translation>Videoquelle</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Audio Source</source>
+        <translation>Audioquelle</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Alpha Keyer</source>
+        <translation>Alpha-Keyer</translation>
+    </message>
+    <message>
+        <location filename="../streaming/output/outputwidget.cpp" line="+9"/>
+        <source>Output %1:</source>
+        <translation>Ausgang %1:</translation>
+    </message>
+</context>
+<context>
+    <name>PlayoutItem</name>
+    <message>
+        <location filename="../streaming/output/playoutitem.ui" line="+35"/>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Video Source</source>
+        <translation>Videoquelle</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Audio Source</source>
+        <translation>Audioquelle</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Alpha Keyer</source>
+        <translation>Alpha-Keyer</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Audio Device</source>
+        <translation>Audiogerät</translation>
+    </message>
+    <message>
+        <location filename="../streaming/output/playoutitem.cpp" line="+151"/>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cannot start output.</source>
+        <translation>Die Ausgabe kann nicht gestartet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayoutSetup</name>
+    <message>
+        <location filename="../streaming/output/playoutsetup.ui" line="+14"/>
+        <source>Playout</source>
+        <translation>Playout</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>SDI</source>
+        <translation>SDI</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>NDI</source>
+        <translation>NDI</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Display</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>VirtualCam</source>
+        <translation>VirtualCam</translation>
+    </message>
+</context>
+<context>
     <name>Provider</name>
     <message>
         <location filename="../streaming/provider/provider.cpp" line="+239"/>

@@ -669,6 +669,270 @@
     </message>
 </context>
 <context>
+    <name>OutputLists</name>
+    <message>
+        <location filename="../streaming/output/outputlists.cpp" line="+35"/>
+        <source>Display %1 (%2x%3)</source>
+        <translation>Écran %1 (%2x%3)</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>VirtualCam</source>
+        <translation>VirtualCam</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>(%1) %2</source>
+        <translation>(%1) %2</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source> - %1</source>
+        <translation> - %1</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>%1 kHz Stereo</source>
+        <translation>%1 kHz stéréo</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Disable</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>InternalKeyer</source>
+        <translation>Incrustation interne</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>ExternalKeyer</source>
+        <translation>Incrustation externe</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Enable</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+23"/>
+        <source>NONE</source>
+        <translation>AUCUNE</translation>
+    </message>
+    <message>
+        <location line="-21"/>
+        <source>PGM(Clean)</source>
+        <translation>PGM (propre)</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Multiview %1</source>
+        <translation>Multiview %1</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>PGM Clean</source>
+        <translation>PGM propre</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PGM Delay</source>
+        <translation>PGM différé</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>%1 (not found)</source>
+        <translation>%1 (introuvable)</translation>
+    </message>
+</context>
+<context>
+    <name>OutputRow</name>
+    <message>
+        <location filename="../streaming/output/outputrow.cpp" line="+16"/>
+        <source>SDI %1</source>
+        <translation>SDI %1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>NDI %1</source>
+        <translation>NDI %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DISPLAY %1</source>
+        <translation>ÉCRAN %1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>AUDIO %1</source>
+        <translation>AUDIO %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>VIRTUAL CAM %1</source>
+        <translation>CAMÉRA VIRTUELLE %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>MULTIVIEW %1</source>
+        <translation>MULTIVIEW %1</translation>
+    </message>
+</context>
+<context>
+    <name>OutputSetup</name>
+    <message>
+        <location filename="../streaming/output/outputsetup.ui" line="+14"/>
+        <source>External Output</source>
+        <translation>Sortie externe</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>Max Resolution:</source>
+        <translation>Résolution max.&#xa0;:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Max Output:</source>
+        <translation>Sorties max.&#xa0;:</translation>
+    </message>
+    <message>
+        <location filename="../streaming/output/outputsetup.cpp" line="+24"/>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Max Resolution: %1x%2</source>
+        <translation>Résolution max.&#xa0;: %1x%2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Max Output: %1</source>
+        <translation>Sorties max.&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>OutputWidget</name>
+    <message>
+        <location filename="../streaming/output/outputwidget.ui" line="+28"/>
+        <source>Output:</source>
+        <translation>Sortie&#xa0;:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Device</source>
+        <translation>Périphérique</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Video Source</source>
+        <translation>Source vidéo</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Audio Source</source>
+        <translation>Source audio</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Alpha Keyer</source>
+        <translation>Incrustation alpha</translation>
+    </message>
+    <message>
+        <location filename="../streaming/output/outputwidget.cpp" line="+9"/>
+        <source>Output %1:</source>
+        <translation>Sortie %1&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>PlayoutItem</name>
+    <message>
+        <location filename="../streaming/output/playoutitem.ui" line="+35"/>
+        <source>Device</source>
+        <translation>Périphérique</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Video Source</source>
+        <translation>Source vidéo</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Audio Source</source>
+        <translation>Source audio</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Alpha Keyer</source>
+        <translation>Incrustation alpha</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Audio Device</source>
+        <translation>Périphérique audio</translation>
+    </message>
+    <message>
+        <location filename="../streaming/output/playoutitem.cpp" line="+151"/>
+        <source>warning</source>
+        <translation>avertissement</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cannot start output.</source>
+        <translation>Impossible de démarrer la sortie.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayoutSetup</name>
+    <message>
+        <location filename="../streaming/output/playoutsetup.ui" line="+14"/>
+        <source>Playout</source>
+        <translation>Playout</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>SDI</source>
+        <translation>SDI</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>NDI</source>
+        <translation>NDI</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Display</source>
+        <translation>Écran</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>VirtualCam</source>
+        <translation>VirtualCam</translation>
+    </message>
+</context>
+<context>
     <name>Provider</name>
     <message>
         <location filename="../streaming/provider/provider.cpp" line="+239"/>

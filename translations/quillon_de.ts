@@ -99,6 +99,55 @@
     </message>
 </context>
 <context>
+    <name>DeviceOutputs</name>
+    <message>
+        <location filename="../host/capture/deviceoutputs.cpp" line="+20"/>
+        <source>SDI card</source>
+        <translation>SDI-Karten</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>NDI</source>
+        <translation>NDI</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>virtual camera</source>
+        <translation>die virtuelle Kamera</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <location line="+18"/>
+        <source>%1 is not connected.</source>
+        <translation>%1 ist nicht angeschlossen.</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>%1 cannot send a picture.</source>
+        <translation>%1 kann kein Bild ausgeben.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 does not offer the format &quot;%2&quot;.</source>
+        <translation>%1 bietet das Format „%2“ nicht an.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 is already in use by %2.</source>
+        <translation>%1 wird bereits von %2 verwendet.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>%1 shows %2 at %3.</source>
+        <translation>%1 zeigt %2 in %3.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 (stand-in): this machine has no %2 driver; %3 is accepted and nothing is sent.</source>
+        <translation>%1 (Platzhalter): Dieser Rechner hat keinen Treiber für %2; %3 wird angenommen, gesendet wird nichts.</translation>
+    </message>
+</context>
+<context>
     <name>EncodingLogFormatter</name>
     <message>
         <location filename="../apps/quillon/encodinglogformatter.cpp" line="+14"/>
@@ -456,7 +505,7 @@
 <context>
     <name>HostSession</name>
     <message>
-        <location filename="../apps/quillon/hostsession.cpp" line="+25"/>
+        <location filename="../apps/quillon/hostsession.cpp" line="+26"/>
         <source>Data folder: %1</source>
         <translation>Datenordner: %1</translation>
     </message>
@@ -489,7 +538,7 @@
         <translation>Codec-Presets: %1, gespeicherte Server: %2.</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+11"/>
         <source>Setup file damaged: kept as %1, defaults in use.</source>
         <translation>Setup-Datei beschädigt: als %1 aufbewahrt, Standardwerte aktiv.</translation>
     </message>
@@ -562,7 +611,7 @@
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <location filename="../apps/quillon/mainwindow.cpp" line="+39"/>
+        <location filename="../apps/quillon/mainwindow.cpp" line="+40"/>
         <source>Data folder: %1</source>
         <translation>Datenordner: %1</translation>
     </message>
@@ -582,7 +631,7 @@
         <translation>Bereit.</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+12"/>
         <source>The setup could not be saved; see the log.</source>
         <translation>Das Setup konnte nicht gespeichert werden; siehe Protokoll.</translation>
     </message>
@@ -623,12 +672,12 @@
         <translation>Unbenannt</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+8"/>
         <source>Nothing running</source>
         <translation>Nichts aktiv</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+11"/>
         <source>Warning; see the log.</source>
         <translation>Warnung; siehe Protokoll.</translation>
     </message>
@@ -636,12 +685,12 @@
 <context>
     <name>OutputDialogRegistry</name>
     <message>
-        <location filename="../apps/quillon/outputdialogregistry.cpp" line="+23"/>
+        <location filename="../apps/quillon/outputdialogregistry.cpp" line="+26"/>
         <source>File naming: &quot;%1&quot; gives %2</source>
         <translation>Dateibenennung: „%1“ ergibt %2</translation>
     </message>
     <message>
-        <location line="+34"/>
+        <location line="+57"/>
         <source>Streaming…</source>
         <translation>Streaming…</translation>
     </message>
@@ -654,6 +703,55 @@
         <location line="+2"/>
         <source>File Naming…</source>
         <translation>Dateibenennung…</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Playout…</source>
+        <translation>Playout…</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>External Output…</source>
+        <translation>Externe Ausgabe…</translation>
+    </message>
+</context>
+<context>
+    <name>PlayoutHost</name>
+    <message>
+        <location filename="../apps/quillon/playouthost.cpp" line="+86"/>
+        <source>No external output is configured.</source>
+        <translation>Es ist keine externe Ausgabe eingerichtet.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>External outputs: %1 of %2 started.</source>
+        <translation>Externe Ausgaben: %1 von %2 gestartet.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <location line="+15"/>
+        <source>%1 - %2 %3 %4</source>
+        <translation>%1 - %2 %3 %4</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source> (stand-in)</source>
+        <translation> (Platzhalter)</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 does not start: %2</source>
+        <translation>%1 startet nicht: %2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 started: %2</source>
+        <translation>%1 gestartet: %2</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>%1 stopped.</source>
+        <translation>%1 gestoppt.</translation>
     </message>
 </context>
 <context>
@@ -757,6 +855,34 @@
         <location line="+23"/>
         <source>%1: the dialog did not open from &quot;%2&quot;.</source>
         <translation>%1: Der Dialog ließ sich aus „%2“ nicht öffnen.</translation>
+    </message>
+</context>
+<context>
+    <name>ToneOutput</name>
+    <message>
+        <location filename="../apps/quillon/toneoutput.cpp" line="+52"/>
+        <source>This machine has no audio output device.</source>
+        <translation>Dieser Rechner hat kein Audio-Ausgabegerät.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The audio device &quot;%1&quot; is not connected.</source>
+        <translation>Das Audiogerät „%1“ ist nicht angeschlossen.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The audio device &quot;%1&quot; cannot play %2 Hz stereo.</source>
+        <translation>Das Audiogerät „%1“ kann %2 Hz Stereo nicht wiedergeben.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The audio device &quot;%1&quot; could not be opened.</source>
+        <translation>Das Audiogerät „%1“ konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The audio device &quot;%1&quot; plays a %2 Hz tone at %3 Hz.</source>
+        <translation>Das Audiogerät „%1“ spielt einen Ton von %2 Hz mit %3 Hz ab.</translation>
     </message>
 </context>
 <context>

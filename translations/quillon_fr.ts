@@ -99,6 +99,55 @@
     </message>
 </context>
 <context>
+    <name>DeviceOutputs</name>
+    <message>
+        <location filename="../host/capture/deviceoutputs.cpp" line="+20"/>
+        <source>SDI card</source>
+        <translation>les cartes SDI</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>NDI</source>
+        <translation>NDI</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>virtual camera</source>
+        <translation>la caméra virtuelle</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <location line="+18"/>
+        <source>%1 is not connected.</source>
+        <translation>%1 n&apos;est pas connecté.</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>%1 cannot send a picture.</source>
+        <translation>%1 ne peut pas envoyer d&apos;image.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 does not offer the format &quot;%2&quot;.</source>
+        <translation>%1 ne propose pas le format «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 is already in use by %2.</source>
+        <translation>%1 est déjà utilisé par %2.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>%1 shows %2 at %3.</source>
+        <translation>%1 affiche %2 en %3.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 (stand-in): this machine has no %2 driver; %3 is accepted and nothing is sent.</source>
+        <translation>%1 (substitut)&#xa0;: cette machine n&apos;a pas de pilote pour %2&#xa0;; %3 est accepté et rien n&apos;est envoyé.</translation>
+    </message>
+</context>
+<context>
     <name>EncodingLogFormatter</name>
     <message>
         <location filename="../apps/quillon/encodinglogformatter.cpp" line="+14"/>
@@ -456,7 +505,7 @@
 <context>
     <name>HostSession</name>
     <message>
-        <location filename="../apps/quillon/hostsession.cpp" line="+25"/>
+        <location filename="../apps/quillon/hostsession.cpp" line="+26"/>
         <source>Data folder: %1</source>
         <translation>Dossier de données&#xa0;: %1</translation>
     </message>
@@ -489,7 +538,7 @@
         <translation>Préréglages de codec&#xa0;: %1, serveurs enregistrés&#xa0;: %2.</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+11"/>
         <source>Setup file damaged: kept as %1, defaults in use.</source>
         <translation>Fichier de configuration endommagé&#xa0;: conservé sous %1, valeurs par défaut utilisées.</translation>
     </message>
@@ -562,7 +611,7 @@
         <translation>&amp;Quitter</translation>
     </message>
     <message>
-        <location filename="../apps/quillon/mainwindow.cpp" line="+39"/>
+        <location filename="../apps/quillon/mainwindow.cpp" line="+40"/>
         <source>Data folder: %1</source>
         <translation>Dossier de données&#xa0;: %1</translation>
     </message>
@@ -582,7 +631,7 @@
         <translation>Prêt.</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+12"/>
         <source>The setup could not be saved; see the log.</source>
         <translation>La configuration n&apos;a pas pu être enregistrée&#xa0;; voir le journal.</translation>
     </message>
@@ -623,12 +672,12 @@
         <translation>Sans nom</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+8"/>
         <source>Nothing running</source>
         <translation>Rien en cours</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+11"/>
         <source>Warning; see the log.</source>
         <translation>Avertissement&#xa0;; voir le journal.</translation>
     </message>
@@ -636,12 +685,12 @@
 <context>
     <name>OutputDialogRegistry</name>
     <message>
-        <location filename="../apps/quillon/outputdialogregistry.cpp" line="+23"/>
+        <location filename="../apps/quillon/outputdialogregistry.cpp" line="+26"/>
         <source>File naming: &quot;%1&quot; gives %2</source>
         <translation>Nommage des fichiers&#xa0;: «&#xa0;%1&#xa0;» donne %2</translation>
     </message>
     <message>
-        <location line="+34"/>
+        <location line="+57"/>
         <source>Streaming…</source>
         <translation>Streaming…</translation>
     </message>
@@ -654,6 +703,55 @@
         <location line="+2"/>
         <source>File Naming…</source>
         <translation>Nommage des fichiers…</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Playout…</source>
+        <translation>Playout…</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>External Output…</source>
+        <translation>Sortie externe…</translation>
+    </message>
+</context>
+<context>
+    <name>PlayoutHost</name>
+    <message>
+        <location filename="../apps/quillon/playouthost.cpp" line="+86"/>
+        <source>No external output is configured.</source>
+        <translation>Aucune sortie externe n&apos;est configurée.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>External outputs: %1 of %2 started.</source>
+        <translation>Sorties externes&#xa0;: %1 sur %2 démarrées.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <location line="+15"/>
+        <source>%1 - %2 %3 %4</source>
+        <translation>%1 - %2 %3 %4</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source> (stand-in)</source>
+        <translation> (substitut)</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 does not start: %2</source>
+        <translation>%1 ne démarre pas&#xa0;: %2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>%1 started: %2</source>
+        <translation>%1 démarré&#xa0;: %2</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>%1 stopped.</source>
+        <translation>%1 arrêté.</translation>
     </message>
 </context>
 <context>
@@ -757,6 +855,34 @@
         <location line="+23"/>
         <source>%1: the dialog did not open from &quot;%2&quot;.</source>
         <translation>%1&#xa0;: la boîte de dialogue ne s&apos;est pas ouverte depuis «&#xa0;%2&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>ToneOutput</name>
+    <message>
+        <location filename="../apps/quillon/toneoutput.cpp" line="+52"/>
+        <source>This machine has no audio output device.</source>
+        <translation>Cette machine n&apos;a aucun périphérique de sortie audio.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The audio device &quot;%1&quot; is not connected.</source>
+        <translation>Le périphérique audio «&#xa0;%1&#xa0;» n&apos;est pas connecté.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The audio device &quot;%1&quot; cannot play %2 Hz stereo.</source>
+        <translation>Le périphérique audio «&#xa0;%1&#xa0;» ne peut pas lire %2 Hz en stéréo.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The audio device &quot;%1&quot; could not be opened.</source>
+        <translation>Le périphérique audio «&#xa0;%1&#xa0;» n&apos;a pas pu être ouvert.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The audio device &quot;%1&quot; plays a %2 Hz tone at %3 Hz.</source>
+        <translation>Le périphérique audio «&#xa0;%1&#xa0;» joue une tonalité de %2 Hz à %3 Hz.</translation>
     </message>
 </context>
 <context>
