@@ -109,6 +109,14 @@ void OutputLists::fillAlpha(QComboBox* list, bool keying)
     }
 }
 
+void OutputLists::addEnabledBuses(QComboBox* list)
+{
+    if (!CodecTables::licenseModel().audioBusEnabled())
+        return;
+    const ProjectPreset::Processing processing = QuillonEngine::projectPreset().processing();
+    SourceLists::addBuses(list, processing.busAEnabled, processing.busBEnabled);
+}
+
 void OutputLists::fillVideoSources(QComboBox* list, Usage usage)
 {
     list->clear();
@@ -119,6 +127,7 @@ void OutputLists::fillVideoSources(QComboBox* list, Usage usage)
     addSource(list, layoutName(LayoutType::DelayProgram), LayoutType::DelayProgram);
     addSource(list, layoutName(LayoutType::Preview), LayoutType::Preview);
     if (usage == Playout) {
+        addEnabledBuses(list);
         addCameras(list);
         for (int i = 0; i < 2; ++i)
             addSource(list, layoutName(LayoutType::Clip, i), LayoutType::Clip, i);
@@ -140,10 +149,7 @@ void OutputLists::fillAudioSources(QComboBox* list)
     addSource(list, layoutName(LayoutType::Program), LayoutType::Program);
     addSource(list, tr("PGM Clean"), LayoutType::CleanProgram);
     addSource(list, tr("PGM Delay"), LayoutType::DelayProgram);
-    if (CodecTables::licenseModel().audioBusEnabled()) {
-        const ProjectPreset::Processing processing = QuillonEngine::projectPreset().processing();
-        SourceLists::addBuses(list, processing.busAEnabled, processing.busBEnabled);
-    }
+    addEnabledBuses(list);
     addCameras(list);
 }
 

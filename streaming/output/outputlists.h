@@ -39,4 +39,8 @@ public:
     // The output kind of a device name ("" and unknown names give 0).
     static int kindOfDevice(const QString& deviceName);
     static bool deviceKeys(const QString& deviceName);
+
+private:
+    // "BUS A" ... "PGM+A+B" where the licence and the project enable the buses.
+    static void addEnabledBuses(QComboBox* list);
 };

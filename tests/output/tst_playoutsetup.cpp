@@ -110,7 +110,7 @@ private slots:
         QCOMPARE(comboTexts(list(sdi, "alphaList")), QStringList({"Disable", "Enable"}));
         QVERIFY(!comboTexts(list(sdi, "formatList")).contains("2160p50"));
         const QStringList video = comboTexts(list(sdi, "videoSourceList"));
-        for (const char* text : {"NONE", "PGM(Clean)", "CAM 2 - Stage Monitor", "Multiview 4", "Multiview 13"})
+        for (const char* text : {"NONE", "PGM(Clean)", "BUS A+B", "CAM 2 - Stage Monitor", "Multiview 4", "Multiview 13"})
             QVERIFY2(video.contains(text), text);
         const QStringList audio = comboTexts(list(sdi, "audioSourceList"));
         for (const char* text : {"PGM Clean", "PGM Delay", "BUS A", "BUS A+B", "PGM+A+B"})
