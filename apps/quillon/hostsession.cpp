@@ -5,7 +5,9 @@
 #include "engine/quillonengine.h"
 #include "interface/fileoutputinterface.h"
 #include "quillon/activitylog.h"
+#include "quillon/isorecorder.h"
 #include "quillon/presetseeder.h"
+#include "quillon/stillgrabber.h"
 #include "records/contentssettings.h"
 #include "stores/codecmanager.h"
 #include "stores/streamingmanager.h"
@@ -30,6 +32,8 @@ HostSession::HostSession(const QString& dataDirectory, ActivityLog* log, QObject
     openStores();
     openSetup();
     m_namingSample = makeNamingSample();
+    m_isoRecorder = std::make_unique<IsoRecorder>(m_log, m_project);
+    m_stillGrabber = std::make_unique<StillGrabber>(m_setup.get(), m_log);
 }
 
 HostSession::~HostSession() = default;

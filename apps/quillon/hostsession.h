@@ -13,6 +13,8 @@
 class ActivityLog;
 class CodecManager;
 class FileOutputInterface;
+class IsoRecorder;
+class StillGrabber;
 class StreamingManager;
 
 // Everything the host keeps for one data location, made before any dialog: the licence
@@ -38,6 +40,9 @@ public:
     CodecManager& codecManager() { return *m_codecManager; }
     StreamingManager& streamingManager() { return *m_streamingManager; }
     FileOutputInterface& setup() { return *m_setup; }
+    // The ISO recording of the cameras and the grab of stills, as the console runs them.
+    IsoRecorder& isoRecorder() { return *m_isoRecorder; }
+    StillGrabber& stillGrabber() { return *m_stillGrabber; }
 
     // The recording preset the file naming dialog edits: the stored codec preset first by label,
     // named "Program", written as mp4 with the recording default tag.
@@ -60,6 +65,8 @@ private:
     std::unique_ptr<CodecManager> m_codecManager;
     std::unique_ptr<StreamingManager> m_streamingManager;
     std::unique_ptr<FileOutputInterface> m_setup;
+    std::unique_ptr<IsoRecorder> m_isoRecorder;
+    std::unique_ptr<StillGrabber> m_stillGrabber;
     CodecPreset m_namingSample;
     QString m_setupNotice;
 };

@@ -3,6 +3,9 @@
 #include "interface/fileoutputinterface.h"
 #include "quillon/activitylog.h"
 #include "quillon/hostsession.h"
+#include "quillon/isorecorder.h"
+#include "recording/imagesetup.h"
+#include "recording/isocordersetup.h"
 #include "recording/recordingsetup.h"
 #include "setup/streamingsetup.h"
 #include "stores/filenamingdialog.h"
@@ -49,6 +52,32 @@ QDialog* createRecording(QWidget* parent, HostSession& session)
     return dialog;
 }
 
+// Modal and kept, as the switcher runs it: every opening starts from the stored settings,
+// and OK with a source chosen starts the recordings.
+QDialog* createIsoRecording(QWidget* parent, HostSession& session)
+{
+    auto* dialog = new IsoCorderSetup(parent, &session.setup());
+    dialog->setSources(session.isoRecorder().cameras());
+    QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, &session] {
+        const QList<IsoCorderSetup::Source> sources = dialog->validCheck() ? dialog->sources()
+                                                                           : QList<IsoCorderSetup::Source>();
+        session.isoRecorder().start(dialog->codecPreset(), sources);
+    });
+    return dialog;
+}
+
+void presentModal(QDialog* dialog)
+{
+    dialog->exec();
+}
+
+QDialog* createGrab(QWidget* parent, HostSession& session)
+{
+    auto* dialog = new ImageSetup(parent, &session.setup());
+    dialog->reloadPresets();
+    return dialog;
+}
+
 } // namespace
 
 const QList<OutputDialogRegistry::Entry>& OutputDialogRegistry::entries()
@@ -58,6 +87,10 @@ const QList<OutputDialogRegistry::Entry>& OutputDialogRegistry::entries()
          true, createStreaming, presentModeless},
         {QStringLiteral("recording"), QT_TR_NOOP("Recording…"), QStringLiteral(":/resources/appicons/recording.png"),
          true, createRecording, presentModeless},
+        {QStringLiteral("isoRecording"), QT_TR_NOOP("ISO Recording…"),
+         QStringLiteral(":/resources/appicons/recording.png"), true, createIsoRecording, presentModal},
+        {QStringLiteral("grab"), QT_TR_NOOP("Grab…"), QStringLiteral(":/resources/appicons/eye.png"), false, createGrab,
+         {}},
         {QStringLiteral("fileNaming"), QT_TR_NOOP("File Naming…"), QStringLiteral(":/resources/appicons/addfiles.png"),
          false, createFileNaming, {}},
     };
