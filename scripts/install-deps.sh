@@ -3,7 +3,7 @@
 set -euo pipefail
 packages=(cmake ninja-build g++ ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev
           qttranslations5-l10n libbenchmark-dev xauth xvfb fonts-dejavu-core
-          ffmpeg nginx libnginx-mod-rtmp srt-tools)
+          ffmpeg nginx libnginx-mod-rtmp srt-tools qt5-image-formats-plugins)
 missing=()
 for p in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -9,7 +9,7 @@
 #include <QFileInfo>
 
 IsoRecorder::IsoRecorder(ActivityLog* log, const ProjectPreset& project, QObject* parent)
-    : QObject(parent), m_log(log), m_project(project), m_cameras(CaptureManager::instance().videoDevices(), project)
+    : QObject(parent), m_log(log), m_cameras(CaptureManager::instance().videoDevices(), project)
 {
 }
 
@@ -26,7 +26,7 @@ int IsoRecorder::start(const CodecPreset& codec, const QList<QPair<QString, Medi
         m_log->info(tr("ISO recording: no source is selected; nothing started."));
         return 0;
     }
-    const ProjectPreset::VideoOutput& video = m_project.videoOutput();
+    const ProjectPreset::VideoOutput video = QuillonEngine::projectPreset().videoOutput();
     for (const QPair<QString, Media*>& source : sources) {
         const int index = m_cameras.indexOf(source.second);
         if (index < 0) {

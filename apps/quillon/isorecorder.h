@@ -18,6 +18,7 @@ class IsoRecorder : public QObject
     Q_OBJECT
 
 public:
+    // The cameras' descriptions name the project's format.
     IsoRecorder(ActivityLog* log, const ProjectPreset& project, QObject* parent = nullptr);
     ~IsoRecorder() override;
 
@@ -34,7 +35,6 @@ signals:
 
 private:
     ActivityLog* m_log;
-    ProjectPreset m_project;
     CameraSources m_cameras;
     QList<CodecPreset> m_running;
 };

@@ -216,7 +216,9 @@ int IsoCorderSetup::videoPage() const
 
 void IsoCorderSetup::codecChange()
 {
-    rebuildVideoBitrate();
+    // An audio change leaves the video rate as the operator set it.
+    if (ui->videoCodecList->currentText() != m_bitrateCodec)
+        rebuildVideoBitrate();
     const CodecTables::VideoRule& video = CodecTables::videoRule(ui->videoCodecList->currentText());
     const int page = videoPage();
     ui->presetStacked->setVisible(page >= 0);
@@ -240,6 +242,7 @@ void IsoCorderSetup::rebuildVideoBitrate()
 {
     const IsoCodecLists::BitrateRange range = IsoCodecLists::fillVideoBitrates(
         ui->videoBitrateList, ui->videoBitrateLabel, ui->videoCodecList->currentData().toInt());
+    m_bitrateCodec = ui->videoCodecList->currentText();
     m_bitrateMinimum = range.minimum;
     m_bitrateMaximum = range.maximum;
 }
@@ -293,7 +296,16 @@ CodecPreset IsoCorderSetup::codecPreset() const
 
 void IsoCorderSetup::presetToUi(CodecPreset* preset)
 {
-    selectText(ui->containerList, preset->container().name.toUpper());
+    // The lists as a fresh dialog shows them for that container, not as the formats the
+    // operator went through before left them (a format without masks of its own keeps those).
+    const LicenseModel& license = CodecTables::licenseModel();
+    m_videoMask = license.availableVideoMask();
+    m_audioMask = license.availableAudioMask();
+    {
+        const QSignalBlocker blocker(ui->containerList);
+        selectText(ui->containerList, preset->container().name.toUpper());
+    }
+    containerChange();
     {
         const QSignalBlocker videoBlocker(ui->videoCodecList);
         const QSignalBlocker audioBlocker(ui->audioCodecList);

@@ -68,6 +68,7 @@ private:
     OutputInterface* host;
     int m_videoMask = 0;
     int m_audioMask = 0;
+    QString m_bitrateCodec; // the video codec the rate list was built for
     int m_bitrateMinimum = 0; // typed video bit rates are held to these; both 0 for a quality list
     int m_bitrateMaximum = 0;
     CodecPreset m_defaults; // what the controls showed before anything was stored
