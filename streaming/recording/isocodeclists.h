@@ -19,8 +19,6 @@ public:
     struct BitrateRange {
         int minimum = 0;
         int maximum = 0;
-        bool isQuality() const { return maximum == 0; }
-        int bound(int kbps) const { return qBound(minimum, kbps, maximum); }
     };
 
     static void fillKeyFrames(QComboBox* list);

@@ -172,9 +172,9 @@ void IsoCorderSetup::itemSelectionChange()
 
 void IsoCorderSetup::containerChange()
 {
-    ContainerMasks::forContainer(ui->containerList->currentData().toInt(),
-                                 CodecTables::licenseModel().availableVideoMask(), &m_videoMask, &m_audioMask);
     const LicenseModel& license = CodecTables::licenseModel();
+    ContainerMasks::forContainer(ui->containerList->currentData().toInt(), license.availableVideoMask(), &m_videoMask,
+                                 &m_audioMask);
     {
         const QSignalBlocker videoBlocker(ui->videoCodecList);
         const QSignalBlocker audioBlocker(ui->audioCodecList);
