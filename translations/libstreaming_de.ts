@@ -669,6 +669,349 @@
     </message>
 </context>
 <context>
+    <name>ImageSetup</name>
+    <message>
+        <location filename="../streaming/recording/imagesetup.ui" line="+14"/>
+        <location line="+7"/>
+        <source>Grab</source>
+        <translation>Standbild</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Location:</source>
+        <translation>Speicherort:</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Select...</source>
+        <translation>Auswählen…</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Edit Naming</source>
+        <translation>Benennung bearbeiten</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Format:</source>
+        <translation>Format:</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Grab to Media Bin:</source>
+        <translation>In Medienpool ablegen:</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Max Grab:</source>
+        <translation>Max. Standbilder:</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Source:</source>
+        <translation>Quelle:</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Preset name</source>
+        <translation>Preset-Name</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Add Presets</source>
+        <translation>Presets hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Remove Presets</source>
+        <translation>Presets entfernen</translation>
+    </message>
+    <message>
+        <location filename="../streaming/recording/imagesetup.cpp" line="+30"/>
+        <source>PGM</source>
+        <translation>PGM</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>PGM(Clean)</source>
+        <translation>PGM (Clean)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PVW</source>
+        <translation>PVW</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>STILL 1</source>
+        <translation>STILL 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>STILL 2</source>
+        <translation>STILL 2</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>Max Grab: %1</source>
+        <translation>Max. Standbilder: %1</translation>
+    </message>
+    <message>
+        <location line="+80"/>
+        <source>Untitled</source>
+        <translation>Unbenannt</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>%1 (%2, %3)</source>
+        <translation>%1 (%2, %3)</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+16"/>
+        <source>Preset</source>
+        <translation>Preset</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Check the maximum number of grab.</source>
+        <translation>Prüfen Sie die maximale Anzahl an Standbildern.</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Are you sure you want to remove this item?</source>
+        <translation>Möchten Sie diesen Eintrag wirklich entfernen?</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Open Directory</source>
+        <translation>Ordner auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>IsoCorderSetup</name>
+    <message>
+        <location filename="../streaming/recording/isocordersetup.ui" line="+14"/>
+        <source>ISO Corder</source>
+        <translation>ISO-Aufnahme</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Sources:</source>
+        <translation>Quellen:</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Max ISO Recording:</source>
+        <translation>Max. ISO-Aufnahmen:</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Format:</source>
+        <translation>Format:</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <location line="+169"/>
+        <source>Codec:</source>
+        <translation>Codec:</translation>
+    </message>
+    <message>
+        <location line="-159"/>
+        <location line="+189"/>
+        <location filename="../streaming/recording/isocodeclists.cpp" line="+124"/>
+        <source>Bitrate(kbps):</source>
+        <translation>Bitrate (kbps):</translation>
+    </message>
+    <message>
+        <location line="-179"/>
+        <source>KeyFrame:</source>
+        <translation>Keyframe:</translation>
+    </message>
+    <message>
+        <location line="+26"/>
+        <location line="+46"/>
+        <location line="+46"/>
+        <source>Preset:</source>
+        <translation>Preset:</translation>
+    </message>
+    <message>
+        <location line="-82"/>
+        <location line="+46"/>
+        <location line="+46"/>
+        <source>Profile:</source>
+        <translation>Profil:</translation>
+    </message>
+    <message>
+        <location line="-82"/>
+        <source>Tune:</source>
+        <translation>Tuning:</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>B-frames:</source>
+        <translation>B-Frames:</translation>
+    </message>
+    <message>
+        <location line="+51"/>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Channel:</source>
+        <translation>Kanäle:</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>SampleRate:</source>
+        <translation>Abtastrate:</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Audio Source:</source>
+        <translation>Audioquelle:</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Location:</source>
+        <translation>Speicherort:</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Edit Naming</source>
+        <translation>Benennung bearbeiten</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Split File:</source>
+        <translation>Datei teilen:</translation>
+    </message>
+    <message>
+        <location filename="../streaming/recording/isocodeclists.cpp" line="-107"/>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>High Quality</source>
+        <translation>Hohe Qualität</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>High Performance</source>
+        <translation>Hohe Leistung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Low-Latency High Quality</source>
+        <translation>Geringe Latenz, hohe Qualität</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Low-Latency High Performance</source>
+        <translation>Geringe Latenz, hohe Leistung</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>%1 sec</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <location line="+48"/>
+        <source>Stereo</source>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>%1 kHz</source>
+        <translation>%1 kHz</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>%1 kbps</source>
+        <translation>%1 kbps</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Quality:</source>
+        <translation>Qualität:</translation>
+    </message>
+    <message>
+        <location filename="../streaming/recording/isocordersetup.cpp" line="+96"/>
+        <source>Max ISO Recording: %1</source>
+        <translation>Max. ISO-Aufnahmen: %1</translation>
+    </message>
+    <message>
+        <location line="+73"/>
+        <source>Preset</source>
+        <translation>Preset</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Check the maximum number of isocorder.</source>
+        <translation>Prüfen Sie die maximale Anzahl an ISO-Aufnahmen.</translation>
+    </message>
+    <message>
+        <location line="+255"/>
+        <source>Open Directory</source>
+        <translation>Ordner auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>IsoSourceItem</name>
+    <message>
+        <location filename="../streaming/recording/isosourceitem.ui" line="+46"/>
+        <source>Record to Media Bin:</source>
+        <translation>In Medienpool aufnehmen:</translation>
+    </message>
+    <message>
+        <location filename="../streaming/recording/isosourceitem.cpp" line="+9"/>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CLIP 1</source>
+        <translation>CLIP 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>CLIP 2</source>
+        <translation>CLIP 2</translation>
+    </message>
+</context>
+<context>
     <name>OutputLists</name>
     <message>
         <location filename="../streaming/output/outputlists.cpp" line="+35"/>
@@ -721,18 +1064,18 @@
         <translation>Ein</translation>
     </message>
     <message>
-        <location line="+8"/>
-        <location line="+23"/>
+        <location line="+16"/>
+        <location line="+24"/>
         <source>NONE</source>
         <translation>KEINE</translation>
     </message>
     <message>
-        <location line="-21"/>
+        <location line="-22"/>
         <source>PGM(Clean)</source>
         <translation>PGM (Clean)</translation>
     </message>
     <message>
-        <location line="+11"/>
+        <location line="+12"/>
         <source>Multiview %1</source>
         <translation>Multiview %1</translation>
     </message>
@@ -747,7 +1090,7 @@
         <translation>PGM verzögert</translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+15"/>
         <source>%1 (not found)</source>
         <translation>%1 (nicht gefunden)</translation>
     </message>
@@ -969,7 +1312,7 @@
     </message>
     <message>
         <location line="+14"/>
-        <location filename="../streaming/recording/recordingsetup.cpp" line="+112"/>
+        <location filename="../streaming/recording/recordingsetup.cpp" line="+100"/>
         <source>Edit Naming</source>
         <translation>Benennung bearbeiten</translation>
     </message>
@@ -1056,7 +1399,7 @@
         <translation>Max. Aufnahmen: %1</translation>
     </message>
     <message>
-        <location line="+113"/>
+        <location line="+110"/>
         <location line="+8"/>
         <source>Preset</source>
         <translation>Preset</translation>
@@ -1077,7 +1420,7 @@
         <translation>Prüfen Sie die maximale Anzahl an Aufnahmen.</translation>
     </message>
     <message>
-        <location line="+21"/>
+        <location line="+19"/>
         <source>Untitled</source>
         <translation>Unbenannt</translation>
     </message>

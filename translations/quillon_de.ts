@@ -61,6 +61,14 @@
     </message>
 </context>
 <context>
+    <name>CameraSources</name>
+    <message>
+        <location filename="../host/capture/camerasources.cpp" line="+8"/>
+        <source>CAM %1</source>
+        <translation>CAM %1</translation>
+    </message>
+</context>
+<context>
     <name>DataDirectory</name>
     <message>
         <location filename="../apps/quillon/datadirectory.cpp" line="+22"/>
@@ -280,12 +288,12 @@
     </message>
     <message>
         <location line="+7"/>
-        <location line="+236"/>
+        <location line="+239"/>
         <source>%1 needs the encoder %2, which the installed FFmpeg does not have.</source>
         <translation>%1 benötigt den Encoder %2, den das installierte FFmpeg nicht hat.</translation>
     </message>
     <message>
-        <location line="-232"/>
+        <location line="-235"/>
         <source>%1 video cannot be written into %2.</source>
         <translation>%1-Video kann nicht in %2 geschrieben werden.</translation>
     </message>
@@ -306,13 +314,13 @@
     </message>
     <message>
         <location line="+36"/>
-        <location line="+48"/>
+        <location line="+51"/>
         <location line="+18"/>
         <source>%1 has no encoder preset &quot;%2&quot;.</source>
         <translation>%1 hat kein Encoder-Preset „%2“.</translation>
     </message>
     <message>
-        <location line="-55"/>
+        <location line="-58"/>
         <source>%1 has no tune &quot;%2&quot;; choose another tune.</source>
         <translation>%1 hat kein Tune „%2“; wählen Sie ein anderes Tune.</translation>
     </message>
@@ -328,7 +336,7 @@
         <translation>Das H.264-Profil Baseline kann kein Zeilensprungverfahren; wählen Sie Main oder High.</translation>
     </message>
     <message>
-        <location line="+85"/>
+        <location line="+88"/>
         <source>DNxHD is written at 1920x1080 or 1280x720 only, not %1x%2.</source>
         <translation>DNxHD wird nur mit 1920x1080 oder 1280x720 geschrieben, nicht mit %1x%2.</translation>
     </message>
@@ -356,7 +364,7 @@
 <context>
     <name>FfmpegCommand</name>
     <message>
-        <location filename="../host/engine/ffmpegcommand.cpp" line="+82"/>
+        <location filename="../host/engine/ffmpegcommand.cpp" line="+85"/>
         <source>The container &quot;%1&quot; is unknown to the engine.</source>
         <translation>Das Containerformat „%1“ ist der Engine unbekannt.</translation>
     </message>
@@ -505,12 +513,12 @@
 <context>
     <name>HostSession</name>
     <message>
-        <location filename="../apps/quillon/hostsession.cpp" line="+26"/>
+        <location filename="../apps/quillon/hostsession.cpp" line="+28"/>
         <source>Data folder: %1</source>
         <translation>Datenordner: %1</translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+20"/>
         <source>Licence: %1 streams, %2 recordings, %3 ISO recordings, %4 outputs, up to %5x%6.</source>
         <translation>Lizenz: %1 Streams, %2 Aufnahmen, %3 ISO-Aufnahmen, %4 Ausgänge, bis %5x%6.</translation>
     </message>
@@ -556,6 +564,47 @@
         <location line="+1"/>
         <source>The setup file %1 is damaged and could not be kept aside; starting with default settings, and changes are not saved.</source>
         <translation>Die Setup-Datei %1 ist beschädigt und konnte nicht beiseitegelegt werden; Start mit den Standardeinstellungen, Änderungen werden nicht gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>IsoRecorder</name>
+    <message>
+        <location filename="../apps/quillon/isorecorder.cpp" line="+22"/>
+        <source>ISO recording runs already; the new settings apply when it is stopped and started again.</source>
+        <translation>Die ISO-Aufnahme läuft bereits; die neuen Einstellungen gelten, sobald sie beendet und neu gestartet wird.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>ISO recording: no source is selected; nothing started.</source>
+        <translation>ISO-Aufnahme: Keine Quelle ausgewählt; nichts gestartet.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>ISO recording: &quot;%1&quot; is not a camera of this switcher; skipped.</source>
+        <translation>ISO-Aufnahme: „%1“ ist keine Kamera dieses Mischers; übersprungen.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>ISO recording of &quot;%1&quot; did not start.</source>
+        <translation>Die ISO-Aufnahme von „%1“ wurde nicht gestartet.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Start ISO recording &quot;%1&quot;</source>
+        <translation>ISO-Aufnahme „%1“ starten</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Start ISO recording &quot;%1&quot; -&gt; %2</source>
+        <translation>ISO-Aufnahme „%1“ starten -&gt; %2</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+14"/>
+        <source>Stop ISO recording: %n file(s).</source>
+        <translation>
+            <numerusform>ISO-Aufnahme beendet: %n Datei.</numerusform>
+            <numerusform>ISO-Aufnahme beendet: %n Dateien.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -611,7 +660,7 @@
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <location filename="../apps/quillon/mainwindow.cpp" line="+40"/>
+        <location filename="../apps/quillon/mainwindow.cpp" line="+43"/>
         <source>Data folder: %1</source>
         <translation>Datenordner: %1</translation>
     </message>
@@ -641,7 +690,17 @@
         <translation>Setup gespeichert (%1).</translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+25"/>
+        <source>Grab Still</source>
+        <translation>Standbild erfassen</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Stop ISO Recording</source>
+        <translation>ISO-Aufnahme beenden</translation>
+    </message>
+    <message>
+        <location line="+22"/>
         <source>Opened %1</source>
         <translation>Geöffnet: %1</translation>
     </message>
@@ -685,12 +744,12 @@
 <context>
     <name>OutputDialogRegistry</name>
     <message>
-        <location filename="../apps/quillon/outputdialogregistry.cpp" line="+26"/>
+        <location filename="../apps/quillon/outputdialogregistry.cpp" line="+29"/>
         <source>File naming: &quot;%1&quot; gives %2</source>
         <translation>Dateibenennung: „%1“ ergibt %2</translation>
     </message>
     <message>
-        <location line="+57"/>
+        <location line="+83"/>
         <source>Streaming…</source>
         <translation>Streaming…</translation>
     </message>
@@ -698,6 +757,16 @@
         <location line="+2"/>
         <source>Recording…</source>
         <translation>Aufnahme…</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>ISO Recording…</source>
+        <translation>ISO-Aufnahme…</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Grab…</source>
+        <translation>Standbild…</translation>
     </message>
     <message>
         <location line="+2"/>
@@ -855,6 +924,34 @@
         <location line="+23"/>
         <source>%1: the dialog did not open from &quot;%2&quot;.</source>
         <translation>%1: Der Dialog ließ sich aus „%2“ nicht öffnen.</translation>
+    </message>
+</context>
+<context>
+    <name>StillGrabber</name>
+    <message>
+        <location filename="../apps/quillon/stillgrabber.cpp" line="+29"/>
+        <source>No grab preset: add one in &quot;Grab…&quot; first.</source>
+        <translation>Kein Standbild-Preset: Legen Sie zuerst eines unter „Standbild…“ an.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The folder %1 cannot be written; choose another location for the grab &quot;%2&quot;.</source>
+        <translation>In den Ordner %1 kann nicht geschrieben werden; wählen Sie einen anderen Speicherort für das Standbild „%2“.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The grab &quot;%1&quot; did not start.</source>
+        <translation>Das Standbild „%1“ wurde nicht gestartet.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Grabbed &quot;%1&quot;: %2</source>
+        <translation>Standbild „%1“ erfasst: %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The grab &quot;%1&quot; failed: %2</source>
+        <translation>Das Standbild „%1“ ist fehlgeschlagen: %2</translation>
     </message>
 </context>
 <context>

@@ -61,6 +61,14 @@
     </message>
 </context>
 <context>
+    <name>CameraSources</name>
+    <message>
+        <location filename="../host/capture/camerasources.cpp" line="+8"/>
+        <source>CAM %1</source>
+        <translation>CAM %1</translation>
+    </message>
+</context>
+<context>
     <name>DataDirectory</name>
     <message>
         <location filename="../apps/quillon/datadirectory.cpp" line="+22"/>
@@ -280,12 +288,12 @@
     </message>
     <message>
         <location line="+7"/>
-        <location line="+236"/>
+        <location line="+239"/>
         <source>%1 needs the encoder %2, which the installed FFmpeg does not have.</source>
         <translation>%1 nécessite l&apos;encodeur %2, absent du FFmpeg installé.</translation>
     </message>
     <message>
-        <location line="-232"/>
+        <location line="-235"/>
         <source>%1 video cannot be written into %2.</source>
         <translation>La vidéo %1 ne peut pas être écrite en %2.</translation>
     </message>
@@ -306,13 +314,13 @@
     </message>
     <message>
         <location line="+36"/>
-        <location line="+48"/>
+        <location line="+51"/>
         <location line="+18"/>
         <source>%1 has no encoder preset &quot;%2&quot;.</source>
         <translation>%1 n&apos;a pas de préréglage d&apos;encodeur «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
-        <location line="-55"/>
+        <location line="-58"/>
         <source>%1 has no tune &quot;%2&quot;; choose another tune.</source>
         <translation>%1 n&apos;a pas de réglage fin «&#xa0;%2&#xa0;»&#xa0;; choisissez-en un autre.</translation>
     </message>
@@ -328,7 +336,7 @@
         <translation>Le profil H.264 baseline ne peut pas être entrelacé&#xa0;; choisissez main ou high.</translation>
     </message>
     <message>
-        <location line="+85"/>
+        <location line="+88"/>
         <source>DNxHD is written at 1920x1080 or 1280x720 only, not %1x%2.</source>
         <translation>DNxHD ne s&apos;écrit qu&apos;en 1920x1080 ou 1280x720, pas en %1x%2.</translation>
     </message>
@@ -356,7 +364,7 @@
 <context>
     <name>FfmpegCommand</name>
     <message>
-        <location filename="../host/engine/ffmpegcommand.cpp" line="+82"/>
+        <location filename="../host/engine/ffmpegcommand.cpp" line="+85"/>
         <source>The container &quot;%1&quot; is unknown to the engine.</source>
         <translation>Le conteneur «&#xa0;%1&#xa0;» est inconnu du moteur.</translation>
     </message>
@@ -505,12 +513,12 @@
 <context>
     <name>HostSession</name>
     <message>
-        <location filename="../apps/quillon/hostsession.cpp" line="+26"/>
+        <location filename="../apps/quillon/hostsession.cpp" line="+28"/>
         <source>Data folder: %1</source>
         <translation>Dossier de données&#xa0;: %1</translation>
     </message>
     <message>
-        <location line="+18"/>
+        <location line="+20"/>
         <source>Licence: %1 streams, %2 recordings, %3 ISO recordings, %4 outputs, up to %5x%6.</source>
         <translation>Licence&#xa0;: %1 streams, %2 enregistrements, %3 enregistrements ISO, %4 sorties, jusqu&apos;à %5x%6.</translation>
     </message>
@@ -556,6 +564,47 @@
         <location line="+1"/>
         <source>The setup file %1 is damaged and could not be kept aside; starting with default settings, and changes are not saved.</source>
         <translation>Le fichier de configuration %1 est endommagé et n&apos;a pas pu être mis de côté&#xa0;; démarrage avec les paramètres par défaut, les modifications ne sont pas enregistrées.</translation>
+    </message>
+</context>
+<context>
+    <name>IsoRecorder</name>
+    <message>
+        <location filename="../apps/quillon/isorecorder.cpp" line="+22"/>
+        <source>ISO recording runs already; the new settings apply when it is stopped and started again.</source>
+        <translation>L&apos;enregistrement ISO est déjà en cours&#xa0;; les nouveaux réglages s&apos;appliqueront après son arrêt et son redémarrage.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>ISO recording: no source is selected; nothing started.</source>
+        <translation>Enregistrement ISO&#xa0;: aucune source n&apos;est sélectionnée&#xa0;; rien n&apos;a démarré.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>ISO recording: &quot;%1&quot; is not a camera of this switcher; skipped.</source>
+        <translation>Enregistrement ISO&#xa0;: «&#xa0;%1&#xa0;» n&apos;est pas une caméra de ce mélangeur&#xa0;; ignorée.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>ISO recording of &quot;%1&quot; did not start.</source>
+        <translation>L&apos;enregistrement ISO de «&#xa0;%1&#xa0;» n&apos;a pas démarré.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Start ISO recording &quot;%1&quot;</source>
+        <translation>Démarrage de l&apos;enregistrement ISO «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Start ISO recording &quot;%1&quot; -&gt; %2</source>
+        <translation>Démarrage de l&apos;enregistrement ISO «&#xa0;%1&#xa0;» -&gt; %2</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+14"/>
+        <source>Stop ISO recording: %n file(s).</source>
+        <translation>
+            <numerusform>Arrêt de l&apos;enregistrement ISO&#xa0;: %n fichier.</numerusform>
+            <numerusform>Arrêt de l&apos;enregistrement ISO&#xa0;: %n fichiers.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -611,7 +660,7 @@
         <translation>&amp;Quitter</translation>
     </message>
     <message>
-        <location filename="../apps/quillon/mainwindow.cpp" line="+40"/>
+        <location filename="../apps/quillon/mainwindow.cpp" line="+43"/>
         <source>Data folder: %1</source>
         <translation>Dossier de données&#xa0;: %1</translation>
     </message>
@@ -641,7 +690,17 @@
         <translation>Configuration enregistrée (%1).</translation>
     </message>
     <message>
-        <location line="+40"/>
+        <location line="+25"/>
+        <source>Grab Still</source>
+        <translation>Capturer une image</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Stop ISO Recording</source>
+        <translation>Arrêter l&apos;enregistrement ISO</translation>
+    </message>
+    <message>
+        <location line="+22"/>
         <source>Opened %1</source>
         <translation>Ouvert&#xa0;: %1</translation>
     </message>
@@ -685,12 +744,12 @@
 <context>
     <name>OutputDialogRegistry</name>
     <message>
-        <location filename="../apps/quillon/outputdialogregistry.cpp" line="+26"/>
+        <location filename="../apps/quillon/outputdialogregistry.cpp" line="+29"/>
         <source>File naming: &quot;%1&quot; gives %2</source>
         <translation>Nommage des fichiers&#xa0;: «&#xa0;%1&#xa0;» donne %2</translation>
     </message>
     <message>
-        <location line="+57"/>
+        <location line="+83"/>
         <source>Streaming…</source>
         <translation>Streaming…</translation>
     </message>
@@ -698,6 +757,16 @@
         <location line="+2"/>
         <source>Recording…</source>
         <translation>Enregistrement…</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>ISO Recording…</source>
+        <translation>Enregistrement ISO…</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Grab…</source>
+        <translation>Capture…</translation>
     </message>
     <message>
         <location line="+2"/>
@@ -855,6 +924,34 @@
         <location line="+23"/>
         <source>%1: the dialog did not open from &quot;%2&quot;.</source>
         <translation>%1&#xa0;: la boîte de dialogue ne s&apos;est pas ouverte depuis «&#xa0;%2&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>StillGrabber</name>
+    <message>
+        <location filename="../apps/quillon/stillgrabber.cpp" line="+29"/>
+        <source>No grab preset: add one in &quot;Grab…&quot; first.</source>
+        <translation>Aucun préréglage de capture&#xa0;: ajoutez-en un d&apos;abord dans «&#xa0;Capture…&#xa0;».</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>The folder %1 cannot be written; choose another location for the grab &quot;%2&quot;.</source>
+        <translation>Impossible d&apos;écrire dans le dossier %1&#xa0;; choisissez un autre emplacement pour la capture «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The grab &quot;%1&quot; did not start.</source>
+        <translation>La capture «&#xa0;%1&#xa0;» n&apos;a pas démarré.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Grabbed &quot;%1&quot;: %2</source>
+        <translation>Capture «&#xa0;%1&#xa0;» enregistrée&#xa0;: %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The grab &quot;%1&quot; failed: %2</source>
+        <translation>La capture «&#xa0;%1&#xa0;» a échoué&#xa0;: %2</translation>
     </message>
 </context>
 <context>

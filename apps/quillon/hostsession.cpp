@@ -5,8 +5,10 @@
 #include "engine/quillonengine.h"
 #include "interface/fileoutputinterface.h"
 #include "quillon/activitylog.h"
+#include "quillon/isorecorder.h"
 #include "quillon/playouthost.h"
 #include "quillon/presetseeder.h"
+#include "quillon/stillgrabber.h"
 #include "records/contentssettings.h"
 #include "stores/codecmanager.h"
 #include "stores/streamingmanager.h"
@@ -31,6 +33,8 @@ HostSession::HostSession(const QString& dataDirectory, ActivityLog* log, QObject
     openStores();
     openSetup();
     m_namingSample = makeNamingSample();
+    m_isoRecorder = std::make_unique<IsoRecorder>(m_log, m_project);
+    m_stillGrabber = std::make_unique<StillGrabber>(m_setup.get(), m_log);
 }
 
 HostSession::~HostSession() = default;

@@ -14,6 +14,8 @@ class ActivityLog;
 class CodecManager;
 class FileOutputInterface;
 class PlayoutHost;
+class IsoRecorder;
+class StillGrabber;
 class StreamingManager;
 
 // Everything the host keeps for one data location, made before any dialog: the licence
@@ -41,6 +43,9 @@ public:
     FileOutputInterface& setup() { return *m_setup; }
     // Starts and stops the playout and external outputs the dialogs ask for.
     PlayoutHost& playout() { return *m_playout; }
+    // The ISO recording of the cameras and the grab of stills, as the console runs them.
+    IsoRecorder& isoRecorder() { return *m_isoRecorder; }
+    StillGrabber& stillGrabber() { return *m_stillGrabber; }
 
     // The recording preset the file naming dialog edits: the stored codec preset first by label,
     // named "Program", written as mp4 with the recording default tag.
@@ -64,6 +69,8 @@ private:
     std::unique_ptr<CodecManager> m_codecManager;
     std::unique_ptr<StreamingManager> m_streamingManager;
     std::unique_ptr<FileOutputInterface> m_setup;
+    std::unique_ptr<IsoRecorder> m_isoRecorder;
+    std::unique_ptr<StillGrabber> m_stillGrabber;
     CodecPreset m_namingSample;
     QString m_setupNotice;
 };

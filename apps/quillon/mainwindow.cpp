@@ -6,6 +6,8 @@
 #include "interface/fileoutputinterface.h"
 #include "quillon/encodinglogformatter.h"
 #include "quillon/hostsession.h"
+#include "quillon/isorecorder.h"
+#include "quillon/stillgrabber.h"
 #include "quillon/outputdialogregistry.h"
 #include "quillon/playouthost.h"
 #include "quillon/runninglineformatter.h"
@@ -13,6 +15,7 @@
 #include "stores/streamingmanager.h"
 
 #include <QAction>
+#include <QBoxLayout>
 #include <QDialog>
 #include <QDir>
 #include <QFileInfo>
@@ -101,6 +104,21 @@ void MainWindow::buildDialogButtons()
         connect(button, &QPushButton::clicked, this, [this, id] { openDialog(id); });
         connect(action, &QAction::triggered, this, [this, id] { openDialog(id); });
     }
+    // What the switcher's own panel does with those settings: grab stills, end the ISO files.
+    auto* grab = new QPushButton(QIcon(QStringLiteral(":/resources/appicons/eye.png")), tr("Grab Still"),
+                                 ui->outputsGroup);
+    grab->setObjectName(QStringLiteral("grabStillButton"));
+    auto* panel = new QHBoxLayout;
+    panel->addWidget(grab);
+    ui->dialogButtonLayout->addLayout(panel);
+    connect(grab, &QPushButton::clicked, this, [this] { m_session.stillGrabber().grab(); });
+    auto* stopIso = new QPushButton(QIcon(QStringLiteral(":/resources/appicons/recording_active.png")),
+                                    tr("Stop ISO Recording"), ui->outputsGroup);
+    stopIso->setObjectName(QStringLiteral("stopIsoButton"));
+    stopIso->setEnabled(m_session.isoRecorder().isRunning());
+    panel->addWidget(stopIso);
+    connect(stopIso, &QPushButton::clicked, this, [this] { m_session.isoRecorder().stop(); });
+    connect(&m_session.isoRecorder(), &IsoRecorder::runningChanged, stopIso, &QWidget::setEnabled);
 }
 
 QDialog* MainWindow::openDialog(const QString& id)

@@ -5,7 +5,10 @@
 #include "output/playoutsetup.h"
 #include "quillon/activitylog.h"
 #include "quillon/hostsession.h"
+#include "quillon/isorecorder.h"
 #include "quillon/playouthost.h"
+#include "recording/imagesetup.h"
+#include "recording/isocordersetup.h"
 #include "recording/recordingsetup.h"
 #include "setup/streamingsetup.h"
 #include "stores/filenamingdialog.h"
@@ -75,6 +78,32 @@ QDialog* createExternalOutput(QWidget* parent, HostSession& session)
     return dialog;
 }
 
+// Modal and kept, as the switcher runs it: every opening starts from the stored settings,
+// and OK with a source chosen starts the recordings.
+QDialog* createIsoRecording(QWidget* parent, HostSession& session)
+{
+    auto* dialog = new IsoCorderSetup(parent, &session.setup());
+    dialog->setSources(session.isoRecorder().cameras());
+    QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, &session] {
+        const QList<IsoCorderSetup::Source> sources = dialog->validCheck() ? dialog->sources()
+                                                                           : QList<IsoCorderSetup::Source>();
+        session.isoRecorder().start(dialog->codecPreset(), sources);
+    });
+    return dialog;
+}
+
+void presentModal(QDialog* dialog)
+{
+    dialog->exec();
+}
+
+QDialog* createGrab(QWidget* parent, HostSession& session)
+{
+    auto* dialog = new ImageSetup(parent, &session.setup());
+    dialog->reloadPresets();
+    return dialog;
+}
+
 } // namespace
 
 const QList<OutputDialogRegistry::Entry>& OutputDialogRegistry::entries()
@@ -84,6 +113,10 @@ const QList<OutputDialogRegistry::Entry>& OutputDialogRegistry::entries()
          true, createStreaming, presentModeless},
         {QStringLiteral("recording"), QT_TR_NOOP("Recording…"), QStringLiteral(":/resources/appicons/recording.png"),
          true, createRecording, presentModeless},
+        {QStringLiteral("isoRecording"), QT_TR_NOOP("ISO Recording…"),
+         QStringLiteral(":/resources/appicons/recording.png"), true, createIsoRecording, presentModal},
+        {QStringLiteral("grab"), QT_TR_NOOP("Grab…"), QStringLiteral(":/resources/appicons/eye.png"), false, createGrab,
+         {}},
         {QStringLiteral("fileNaming"), QT_TR_NOOP("File Naming…"), QStringLiteral(":/resources/appicons/addfiles.png"),
          false, createFileNaming, {}},
         {QStringLiteral("playout"), QT_TR_NOOP("Playout…"), QStringLiteral(":/resources/appicons/output.png"), true,

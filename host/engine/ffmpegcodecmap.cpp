@@ -256,6 +256,9 @@ bool FfmpegCodecMap::mapVideo(const CodecPreset& preset, const ProjectPreset& pr
                                               {QStringLiteral("default"), QStringLiteral("default")},
                                               {QStringLiteral("High Quality"), QStringLiteral("hq")},
                                               {QStringLiteral("High Performance"), QStringLiteral("hp")},
+                                              // as the ISO dialog stores them
+                                              {QStringLiteral("hq"), QStringLiteral("hq")},
+                                              {QStringLiteral("hp"), QStringLiteral("hp")},
                                               {QStringLiteral("lowLatencyHQ"), QStringLiteral("llhq")},
                                               {QStringLiteral("lowLatencyHP"), QStringLiteral("llhp")}};
         if (!presets.contains(v.preset)) {

@@ -61,8 +61,11 @@ QStringList FfmpegCommand::programme(const CodecPreset& preset, const ProjectPre
     QStringList a;
     if (realTime)
         a << QStringLiteral("-re");
+    const bool withAudio = preset.audioCodec().enabled;
     a << QStringLiteral("-f") << QStringLiteral("lavfi") << QStringLiteral("-i")
-      << TestPicture::graph(project, video, audio, preset.audioCodec().enabled);
+      << (video == TestPicture::Camera
+              ? TestPicture::cameraGraph(project, preset.videoSource().first(), preset.sourceName(), audio, withAudio)
+              : TestPicture::graph(project, video, audio, withAudio));
     return a;
 }
 

@@ -37,7 +37,7 @@ int TestPicture::toneOf(int audioSource)
     }
 }
 
-QString TestPicture::videoGraph(const ProjectPreset& project, bool bars, const QString& label)
+QString TestPicture::videoGraph(const ProjectPreset& project, bool bars, const QString& label, int hue)
 {
     const ProjectPreset::VideoOutput& v = project.videoOutput();
     QString graph = QStringLiteral("%1=size=%2x%3:rate=%4")
@@ -45,6 +45,8 @@ QString TestPicture::videoGraph(const ProjectPreset& project, bool bars, const Q
                         .arg(v.width)
                         .arg(v.height)
                         .arg(rateText(frameRate(project)));
+    if (hue >= 0)
+        graph += QStringLiteral(",hue=h=%1").arg(hue);
     if (!label.isEmpty()) {
         // The clock is drawn per frame by FFmpeg; no shell sees this text, only FFmpeg's parser.
         graph += QStringLiteral(",drawtext=text='%1 %{localtime\\:%T}':fontsize=%2:fontcolor=white"
@@ -64,8 +66,24 @@ QString TestPicture::graph(const ProjectPreset& project, int videoSource, const 
     QString graph = videoGraph(project, preview, clean ? QString() : (preview ? QStringLiteral("PVW")
                                                                               : QStringLiteral("PGM")));
     graph += QStringLiteral("[out0]");
-    if (!withAudio)
-        return graph;
+    return withAudio ? graph + audioGraph(project, audioSources) : graph;
+}
+
+QString TestPicture::cameraGraph(const ProjectPreset& project, int index, const QString& name,
+                                 const QList<int>& audioSources, bool withAudio)
+{
+    // Only plain characters reach FFmpeg's filter parser, which gives ' : , ; [ ] \ a meaning.
+    QString label;
+    for (const QChar c : name.isEmpty() ? QStringLiteral("CAM %1").arg(qMax(0, index) + 1) : name)
+        label += c.isLetterOrNumber() || QStringLiteral(" -_.()#").contains(c) ? c : QLatin1Char(' ');
+    // Each camera in a hue of its own, so the files tell apart at a glance.
+    QString graph = videoGraph(project, false, label.trimmed(), (qMax(0, index) * 67) % 360) + QStringLiteral("[out0]");
+    return withAudio ? graph + audioGraph(project, audioSources) : graph;
+}
+
+QString TestPicture::audioGraph(const ProjectPreset& project, const QList<int>& audioSources)
+{
+    QString graph;
     QList<int> tones;
     for (int source : audioSources)
         if (!tones.contains(toneOf(source)))

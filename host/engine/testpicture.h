@@ -17,7 +17,7 @@ class HOST_EXPORT TestPicture
 
 public:
     // Video source types of the outputs' source maps.
-    enum SourceType { Programme = 7, CleanProgramme = 8, Preview = 10, BusA = 17, BusB = 18 };
+    enum SourceType { Camera = 1, Programme = 7, CleanProgramme = 8, Preview = 10, BusA = 17, BusB = 18 };
     // Still sources of the grab: programme, clean programme, preview, clean preview.
     enum GrabSource { GrabProgramme = 0, GrabCleanProgramme = 1, GrabPreview = 2, GrabCleanPreview = 3 };
 
@@ -25,6 +25,10 @@ public:
     // mixed tones of the audio sources (absent without audio). Clean sources carry no clock.
     static QString graph(const ProjectPreset& project, int videoSource, const QList<int>& audioSources,
                          bool withAudio);
+    // A camera's own picture for its ISO recording: the pattern in a hue of its own, labelled
+    // with its name ("CAM <index + 1>" without one).
+    static QString cameraGraph(const ProjectPreset& project, int index, const QString& name,
+                               const QList<int>& audioSources, bool withAudio);
     static QString grabGraph(const ProjectPreset& project, int grabSource);
     // Frames per second of the project's video (an interlaced project's rate is a field rate).
     static double frameRate(const ProjectPreset& project);
@@ -36,5 +40,7 @@ public:
     static int toneOf(int audioSource);
 
 private:
-    static QString videoGraph(const ProjectPreset& project, bool bars, const QString& label);
+    // hue: degrees to turn the pattern's colours by, none when negative.
+    static QString videoGraph(const ProjectPreset& project, bool bars, const QString& label, int hue = -1);
+    static QString audioGraph(const ProjectPreset& project, const QList<int>& audioSources);
 };

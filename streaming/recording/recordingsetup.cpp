@@ -5,7 +5,9 @@
 #include "codec/codectables.h"
 #include "engine/quillonengine.h"
 #include "interface/outputinterface.h"
+#include "recording/containermasks.h"
 #include "recording/encoderrows.h"
+#include "recording/presetnames.h"
 #include "recording/presetcontrols.h"
 #include "recording/recordingpresetjson.h"
 #include "recording/sourcelists.h"
@@ -30,20 +32,6 @@ using SourceMap = QMap<int, int>;
 
 const char settingsKey[] = "RECORDING";
 const char fileTagKey[] = "ql.recording.filetag";
-
-// What each container can hold: video codec bits and audio codec bits.
-struct ContainerRule {
-    int id;
-    int videoMask;  // used as it stands unless xorAvailable
-    bool xorAvailable; // the licence's available mask XOR videoMask
-    int audioMask;
-};
-const ContainerRule containerRules[] = {
-    {1, 0x407F, false, 1},
-    {2, 0x2580, true, 19},
-    {64, 0x3600, true, 19},
-    {128, 0x800, false, 16},
-};
 
 const char* const mediaBins[] = {QT_TRANSLATE_NOOP("RecordingSetup", "None"), QT_TRANSLATE_NOOP("RecordingSetup", "CLIP 1"),
                                  QT_TRANSLATE_NOOP("RecordingSetup", "CLIP 2")};
@@ -118,14 +106,11 @@ void RecordingSetup::initializeUi()
 
 void RecordingSetup::buildCodecs()
 {
-    const int id = ui->containerList->currentData().toInt();
-    for (const ContainerRule& rule : containerRules) {
-        if (rule.id != id)
-            continue;
-        const int available = CodecTables::licenseModel().availableVideoMask();
-        ui->encoderList->setCodecMask(rule.xorAvailable ? available ^ rule.videoMask : rule.videoMask, rule.audioMask);
-        return;
-    }
+    int videoMask = 0;
+    int audioMask = 0;
+    if (ContainerMasks::forContainer(ui->containerList->currentData().toInt(),
+                                     CodecTables::licenseModel().availableVideoMask(), &videoMask, &audioMask))
+        ui->encoderList->setCodecMask(videoMask, audioMask);
 }
 
 void RecordingSetup::reloadPresets()
@@ -217,12 +202,10 @@ void RecordingSetup::addPresetClicked()
         return;
     }
     // One pass over the rows: "Cam", "Cam 2", "Cam 3"...
-    const QString base = nameOrUntitled();
-    QString name = base;
-    int counter = 2;
-    for (int row = 0; row < ui->presetList->count(); ++row)
-        if (EncoderRows::presetOf(ui->presetList->item(row)).name() == name)
-            name = QStringLiteral("%1 %2").arg(base).arg(counter++);
+    QStringList names;
+    for (const CodecPreset& preset : m_rows->presets())
+        names.append(preset.name());
+    const QString name = PresetNames::unique(nameOrUntitled(), names);
 
     CodecPreset preset = presetFromControls(name);
     preset.setId(QUuid::createUuid().toString());
