@@ -3,6 +3,7 @@
 #include "ui_basewidget.h"
 #include "ui_streamingsetup.h"
 
+#include "browser/cefmanager.h"
 #include "codec/codectables.h"
 #include "engine/quillonengine.h"
 #include "interface/outputinterface.h"
@@ -395,6 +396,9 @@ void StreamingSetup::authorizeProvider(Provider* current)
         setBusy(false);
         if (!revoked)
             errorMessage();
+        // The service's web session goes too: the next sign-in asks for the account again.
+        if (!usesPasswordLogin(current))
+            CefManager::instance()->deleteCookies();
         SavedAccount::sync(*current); // forgotten once the service took it back
         updateUi(true);
     } else if (usesPasswordLogin(current)) {
