@@ -11,7 +11,8 @@
 namespace {
 Q_LOGGING_CATEGORY(lcEnvironment, "host.webbrowser")
 
-bool disabledSandbox = false;
+// Why the sandbox is off, empty while it is on.
+const char* sandboxOffReason = "";
 
 // The engine's sandbox puts each page process in user namespaces of its own; where a
 // process may not create one (containers, hardened kernels) no page process can start.
@@ -60,14 +61,13 @@ void prepare()
     if (!root && userNamespacesWork())
         return;
     qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
-    disabledSandbox = true;
-    qCInfo(lcEnvironment) << "The browser's sandbox is off:"
-                          << (root ? "running as root." : "this system does not allow user namespaces.");
+    sandboxOffReason = root ? "running as root." : "this system does not allow user namespaces.";
 }
 
-bool sandboxDisabled()
+void logSandbox()
 {
-    return disabledSandbox;
+    if (*sandboxOffReason)
+        qCInfo(lcEnvironment).noquote() << "The browser's sandbox is off:" << sandboxOffReason;
 }
 
 bool canRender()

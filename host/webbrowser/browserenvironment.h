@@ -9,8 +9,8 @@ namespace BrowserEnvironment {
 // composes with, keeps the browser from any network traffic of its own, and turns the
 // engine's sandbox off where it cannot work (running as root, no user namespaces).
 BROWSER_EXPORT void prepare();
-// Whether prepare() turned the sandbox off.
-BROWSER_EXPORT bool sandboxDisabled();
+// Logs that prepare() turned the sandbox off, and why; nothing when it is on.
+BROWSER_EXPORT void logSandbox();
 // Whether the running platform plugin can draw pages (not "offscreen" or "minimal").
 BROWSER_EXPORT bool canRender();
 

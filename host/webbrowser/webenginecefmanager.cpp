@@ -1,5 +1,6 @@
 #include "webbrowser/webenginecefmanager.h"
 
+#include "webbrowser/browserenvironment.h"
 #include "webbrowser/webenginebrowser.h"
 
 #include <QDir>
@@ -43,6 +44,7 @@ WebEngineCefManager::WebEngineCefManager(const QString& storageDirectory)
     : d(std::make_unique<Private>())
 {
     d->profile = makeProfile(storageDirectory);
+    BrowserEnvironment::logSandbox();
 }
 
 WebEngineCefManager::~WebEngineCefManager()
