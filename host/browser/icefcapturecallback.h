@@ -13,7 +13,7 @@ class HOST_EXPORT ICefCaptureCallback
 public:
     // Why a page cannot be shown.
     enum class LoadFailure {
-        NotLoaded,        // the address could not be reached or answered with an error
+        NotLoaded,        // the page could not be loaded (no server, refused, cut off)
         TooManyRedirects, // the address kept redirecting
         TimedOut,         // the page did not finish loading in time and was stopped
         Crashed,          // the process drawing the page ended
