@@ -1,10 +1,21 @@
 #!/usr/bin/env bash
 # Installs the Debian 12 packages the project builds, runs and tests with. Idempotent.
+# --browser (or STREAMING_WITH_BROWSER=1) adds Qt WebEngine for the reference host's
+# browser engine (host/webbrowser): 27 more packages, about 170 MiB installed.
 set -euo pipefail
 packages=(cmake ninja-build g++ ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev
           qttranslations5-l10n libbenchmark-dev xauth xvfb fonts-dejavu-core
           ffmpeg nginx libnginx-mod-rtmp srt-tools qtmultimedia5-dev libqt5multimedia5-plugins
           qt5-image-formats-plugins)
+for arg in "$@"; do
+    case "$arg" in
+        --browser) STREAMING_WITH_BROWSER=1 ;;
+        *) echo "usage: $0 [--browser]" >&2; exit 2 ;;
+    esac
+done
+if [ "${STREAMING_WITH_BROWSER:-0}" = 1 ]; then
+    packages+=(qtwebengine5-dev)
+fi
 missing=()
 for p in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

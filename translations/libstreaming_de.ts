@@ -1658,8 +1658,8 @@
     <message>
         <location filename="../streaming/setup/streamingsetup.ui" line="+14"/>
         <location line="+7"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+372"/>
-        <location line="+240"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+373"/>
+        <location line="+243"/>
         <source>Streaming</source>
         <translation>Streaming</translation>
     </message>
@@ -1701,7 +1701,7 @@
     </message>
     <message>
         <location line="+20"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-470"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-473"/>
         <source>Edit Naming</source>
         <translation>Benennung bearbeiten</translation>
     </message>
@@ -1734,13 +1734,13 @@
     </message>
     <message>
         <location line="+13"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+494"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+497"/>
         <source>Untitled</source>
         <translation>Unbenannt</translation>
     </message>
     <message>
         <location line="+7"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-405"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-408"/>
         <location line="+1"/>
         <source>Add Presets</source>
         <translation>Presets hinzufügen</translation>
@@ -1754,13 +1754,13 @@
     </message>
     <message>
         <location line="+32"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+370"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+373"/>
         <location line="+24"/>
         <source>Preset</source>
         <translation>Preset</translation>
     </message>
     <message>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-515"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-518"/>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
@@ -1780,7 +1780,7 @@
         <translation>Der Dienst hat die Anmeldung nicht zurückgenommen. Soll sie trotzdem auf diesem Computer vergessen werden?</translation>
     </message>
     <message>
-        <location line="+231"/>
+        <location line="+234"/>
         <source>Check the maximum number of streams.</source>
         <translation>Prüfen Sie die maximale Anzahl an Streams.</translation>
     </message>
@@ -1836,7 +1836,32 @@
         <translation>Fügen Sie die Adresse ein, bei der der Webbrowser angekommen ist, und drücken Sie die Eingabetaste</translation>
     </message>
     <message>
-        <location line="+154"/>
+        <location line="+174"/>
+        <source>The page at %1 could not be loaded.</source>
+        <translation>Die Seite auf %1 konnte nicht geladen werden.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The page at %1 kept redirecting and could not be shown.</source>
+        <translation>Die Seite auf %1 leitet immer wieder weiter und kann nicht angezeigt werden.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The page at %1 did not finish loading and was stopped.</source>
+        <translation>Die Seite auf %1 wurde nicht fertig geladen und wurde angehalten.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The page at %1 stopped working because the browser process showing it ended.</source>
+        <translation>Die Seite auf %1 funktioniert nicht mehr, weil der Browser-Prozess, der sie anzeigte, beendet wurde.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Close this window and try again.</source>
+        <translation>Schließen Sie dieses Fenster und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
         <source>No web browser is available on this system.</source>
         <translation>Auf diesem System ist kein Webbrowser verfügbar.</translation>
     </message>

@@ -1658,8 +1658,8 @@
     <message>
         <location filename="../streaming/setup/streamingsetup.ui" line="+14"/>
         <location line="+7"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+372"/>
-        <location line="+240"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+373"/>
+        <location line="+243"/>
         <source>Streaming</source>
         <translation>Streaming</translation>
     </message>
@@ -1701,7 +1701,7 @@
     </message>
     <message>
         <location line="+20"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-470"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-473"/>
         <source>Edit Naming</source>
         <translation>Modifier le nommage</translation>
     </message>
@@ -1734,13 +1734,13 @@
     </message>
     <message>
         <location line="+13"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+494"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+497"/>
         <source>Untitled</source>
         <translation>Sans titre</translation>
     </message>
     <message>
         <location line="+7"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-405"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-408"/>
         <location line="+1"/>
         <source>Add Presets</source>
         <translation>Ajouter des préréglages</translation>
@@ -1754,13 +1754,13 @@
     </message>
     <message>
         <location line="+32"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+370"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+373"/>
         <location line="+24"/>
         <source>Preset</source>
         <translation>Préréglage</translation>
     </message>
     <message>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="-515"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="-518"/>
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
@@ -1780,7 +1780,7 @@
         <translation>Le service n&apos;a pas révoqué la connexion. L&apos;oublier quand même sur cet ordinateur&#xa0;?</translation>
     </message>
     <message>
-        <location line="+231"/>
+        <location line="+234"/>
         <source>Check the maximum number of streams.</source>
         <translation>Vérifiez le nombre maximal de streams.</translation>
     </message>
@@ -1836,7 +1836,32 @@
         <translation>Collez l&apos;adresse à laquelle le navigateur web est arrivé, puis appuyez sur Entrée</translation>
     </message>
     <message>
-        <location line="+154"/>
+        <location line="+174"/>
+        <source>The page at %1 could not be loaded.</source>
+        <translation>La page sur %1 n&apos;a pas pu être chargée.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The page at %1 kept redirecting and could not be shown.</source>
+        <translation>La page sur %1 redirige sans fin et ne peut pas être affichée.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The page at %1 did not finish loading and was stopped.</source>
+        <translation>La page sur %1 ne s&apos;est pas chargée entièrement et a été arrêtée.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The page at %1 stopped working because the browser process showing it ended.</source>
+        <translation>La page sur %1 ne fonctionne plus, car le processus du navigateur qui l&apos;affichait s&apos;est arrêté.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Close this window and try again.</source>
+        <translation>Fermez cette fenêtre et réessayez.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
         <source>No web browser is available on this system.</source>
         <translation>Aucun navigateur web n&apos;est disponible sur ce système.</translation>
     </message>

@@ -985,7 +985,7 @@
 <context>
     <name>main</name>
     <message>
-        <location filename="../apps/quillon/main.cpp" line="+53"/>
+        <location filename="../apps/quillon/main.cpp" line="+63"/>
         <source>Translations: %1</source>
         <translation>Übersetzungen: %1</translation>
     </message>
@@ -996,6 +996,11 @@
     </message>
     <message>
         <location line="+17"/>
+        <source>Sign-in pages open in the built-in browser.</source>
+        <translation>Anmeldeseiten werden im integrierten Browser geöffnet.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
         <source>Screenshot %1</source>
         <translation>Bildschirmfoto %1</translation>
     </message>

@@ -6,17 +6,27 @@
 #include "quillon/screenshotrenderer.h"
 #include "quillon/translations.h"
 
+#ifdef QUILLON_BROWSER
+#include "webbrowser/browserenvironment.h"
+#include "webbrowser/webenginecefmanager.h"
+#endif
+
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 #include <QTextStream>
 
+#include <memory>
+
 int main(int argc, char* argv[])
 {
     // Screenshots need no display: render offscreen unless a platform was chosen.
     if (AppOptions::wantsScreenshots(argc, argv) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+#ifdef QUILLON_BROWSER
+    BrowserEnvironment::prepare();
+#endif
 
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Quillon"));
@@ -61,6 +71,17 @@ int main(int argc, char* argv[])
         else
             log.info(text);
     }
+#ifdef QUILLON_BROWSER
+    // The services' sign-in pages open in the built-in browser where the platform can draw
+    // them; elsewhere the sign-in window shows the address to open in another browser.
+    std::unique_ptr<CefManager> browser;
+    if (BrowserEnvironment::canRender()) {
+        const QString sessions = QDir(options.dataDirectory()).filePath(QStringLiteral("browser"));
+        browser = std::make_unique<WebEngineCefManager>(sessions);
+        CefManager::setInstance(browser.get());
+        log.info(QCoreApplication::translate("main", "Sign-in pages open in the built-in browser."));
+    }
+#endif
     // The stores exist before any dialog can be opened.
     HostSession session(options.dataDirectory(), &log);
     MainWindow window(session);

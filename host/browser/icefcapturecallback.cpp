@@ -1,3 +1,5 @@
 #include "browser/icefcapturecallback.h"
 
 ICefCaptureCallback::~ICefCaptureCallback() = default;
+
+void ICefCaptureCallback::onLoadFailed(LoadFailure, const QString&) {}

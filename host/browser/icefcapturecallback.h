@@ -6,11 +6,19 @@
 #include <QString>
 
 // What an off-screen browser asks of the widget that shows it. The browser may call
-// onPaint, onLoadingStateChanged, onUrlChanged and onTitleChanged from a thread of
-// its own; it makes no call after CefManager::deleteBrowser has returned for it.
+// onPaint, onLoadingStateChanged, onUrlChanged, onTitleChanged and onLoadFailed from a
+// thread of its own; it makes no call after CefManager::deleteBrowser has returned for it.
 class HOST_EXPORT ICefCaptureCallback
 {
 public:
+    // Why a page cannot be shown.
+    enum class LoadFailure {
+        NotLoaded,        // the page could not be loaded (no server, refused, cut off)
+        TooManyRedirects, // the address kept redirecting
+        TimedOut,         // the page did not finish loading in time and was stopped
+        Crashed,          // the process drawing the page ended
+    };
+
     virtual ~ICefCaptureCallback();
 
     // A new frame: width x height pixels, 4 bytes each (ARGB32), valid during the call only.
@@ -28,4 +36,7 @@ public:
     // Every address the browser reaches, redirects included.
     virtual void onUrlChanged(const QString& url) = 0;
     virtual void onTitleChanged(const QString& title) = 0;
+    // The page at url cannot be shown; the browser stays and takes the next load.
+    // Does nothing unless the widget shows it.
+    virtual void onLoadFailed(LoadFailure failure, const QString& url);
 };

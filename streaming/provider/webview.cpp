@@ -47,9 +47,17 @@ WebView::WebView(QWidget* parent)
         if (!address.isEmpty())
             emit urlChanged(address);
     });
+    m_failureLabel = new QLabel(this);
+    m_failureLabel->setObjectName(QStringLiteral("failureLabel"));
+    m_failureLabel->setAlignment(Qt::AlignCenter);
+    m_failureLabel->setWordWrap(true);
+    m_failureLabel->setTextFormat(Qt::PlainText);
+    m_failureLabel->setAutoFillBackground(true);
+    m_failureLabel->hide();
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_noBrowserLabel);
     layout->addWidget(m_pastedAddress);
+    layout->addWidget(m_failureLabel);
     updateNoBrowserText();
 }
 
@@ -61,6 +69,7 @@ WebView::~WebView()
 void WebView::loadUrl(const QUrl& url)
 {
     CefManager* manager = CefManager::instance();
+    m_failureLabel->hide();
     if (url.isEmpty()) {
         manager->deleteBrowser(this);
         m_url.clear();
@@ -142,6 +151,12 @@ void WebView::onUrlChanged(const QString& url)
 
 void WebView::onTitleChanged(const QString&) {}
 
+void WebView::onLoadFailed(LoadFailure failure, const QString& url)
+{
+    // Shown on the GUI thread, whichever thread the browser calls from.
+    QMetaObject::invokeMethod(this, [this, failure, url] { showFailure(failure, url); });
+}
+
 void WebView::paintEvent(QPaintEvent*)
 {
     QMutexLocker lock(&m_frameMutex);
@@ -185,6 +200,35 @@ void WebView::wheelEvent(QWheelEvent* event)
 void WebView::keyPressEvent(QKeyEvent* event)
 {
     CefManager::instance()->keyPressEvent(this, event);
+}
+
+bool WebView::focusNextPrevChild(bool)
+{
+    return false;
+}
+
+void WebView::showFailure(LoadFailure failure, const QString& url)
+{
+    const QUrl address(url);
+    const QString site = address.host().isEmpty() ? url : address.host();
+    QString text;
+    switch (failure) {
+    case LoadFailure::NotLoaded:
+        text = tr("The page at %1 could not be loaded.").arg(site);
+        break;
+    case LoadFailure::TooManyRedirects:
+        text = tr("The page at %1 kept redirecting and could not be shown.").arg(site);
+        break;
+    case LoadFailure::TimedOut:
+        text = tr("The page at %1 did not finish loading and was stopped.").arg(site);
+        break;
+    case LoadFailure::Crashed:
+        text = tr("The page at %1 stopped working because the browser process showing it ended.").arg(site);
+        break;
+    }
+    m_failureLabel->setText(text + QLatin1Char('\n') + tr("Close this window and try again."));
+    m_failureLabel->show();
+    qCWarning(lcWebView).noquote() << text;
 }
 
 void WebView::updateNoBrowserText()

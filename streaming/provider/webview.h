@@ -40,6 +40,7 @@ public:
     bool isTransparent() const override;
     void onUrlChanged(const QString& url) override;
     void onTitleChanged(const QString& title) override;
+    void onLoadFailed(LoadFailure failure, const QString& url) override;
 
 signals:
     void urlChanged(const QString& url);
@@ -53,9 +54,12 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    // Tab and Backtab move between the page's fields, not out of the view.
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void updateNoBrowserText();
+    void showFailure(LoadFailure failure, const QString& url);
 
     QString m_url;
     mutable QMutex m_frameMutex;
@@ -63,4 +67,6 @@ private:
     QImage m_frame;
     QLabel* m_noBrowserLabel = nullptr;
     QLineEdit* m_pastedAddress = nullptr;
+    // Why the page cannot be shown, over the page; hidden until then.
+    QLabel* m_failureLabel = nullptr;
 };

@@ -3,6 +3,7 @@
 #include "ui_basewidget.h"
 #include "ui_streamingsetup.h"
 
+#include "browser/cefmanager.h"
 #include "codec/codectables.h"
 #include "engine/quillonengine.h"
 #include "interface/outputinterface.h"
@@ -377,6 +378,9 @@ void StreamingSetup::authorizeProvider(Provider* current)
                 current->setLoggedIn(false);
             }
         }
+        // Once it is forgotten, the service's web session goes too: the next sign-in asks for the account again.
+        if (!current->isAuthorized() && !usesPasswordLogin(current))
+            CefManager::instance()->deleteCookies();
         SavedAccount::sync(*current); // forgotten once it is no longer signed in
         updateUi(true);
     } else if (usesPasswordLogin(current)) {
