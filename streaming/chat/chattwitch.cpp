@@ -47,7 +47,11 @@ ChatTwitch::ChatTwitch(ViewInterface* view)
 {
     connect(m_socket, &QTcpSocket::readyRead, this, &ChatTwitch::ircReadData);
     connect(m_socket, &QAbstractSocket::errorOccurred, this, &ChatTwitch::socketError);
-    connect(m_socket, &QAbstractSocket::connected, &m_connectTimer, &QTimer::stop);
+    connect(m_socket, &QAbstractSocket::connected, this, [this] {
+        m_connectTimer.stop();
+        write(m_logIn);
+        m_logIn.clear();
+    });
     m_connectTimer.setSingleShot(true);
     m_connectTimer.setInterval(connectTimeout);
     connect(&m_connectTimer, &QTimer::timeout, this, [this] {
@@ -79,15 +83,16 @@ bool ChatTwitch::chatConnect(const QString& nick, const QString& channel)
     if (!valid || port == 0)
         port = defaultPort;
 
+    // Every line ends with a space before CR LF, as the gateway has always been sent. They
+    // go out once the connection stands: a refused one then has nothing left to flush.
+    m_logIn = QStringLiteral("PASS oauth:%1 \r\n").arg(m_accessToken).toUtf8();
+    m_logIn += QStringLiteral("NICK %1 \r\n").arg(m_nick).toLocal8Bit();
+    m_logIn += QStringLiteral("USER %1 :%2 \r\n").arg(m_nick, m_channel).toLocal8Bit();
+    for (const char* capability : {"membership", "tags", "commands"})
+        m_logIn += QStringLiteral("CAP REQ :%1/%2 \r\n").arg(capabilityNamespace, QLatin1String(capability)).toUtf8();
+    m_logIn += QStringLiteral("JOIN #%1 \r\n").arg(m_channel).toLocal8Bit();
     m_socket->connectToHost(m_host, port, QIODevice::ReadWrite, QAbstractSocket::AnyIPProtocol);
     m_connectTimer.start();
-    // Every line ends with a space before CR LF, as the gateway has always been sent.
-    write(QStringLiteral("PASS oauth:%1 \r\n").arg(m_accessToken).toUtf8());
-    write(QStringLiteral("NICK %1 \r\n").arg(m_nick).toLocal8Bit());
-    write(QStringLiteral("USER %1 :%2 \r\n").arg(m_nick, m_channel).toLocal8Bit());
-    for (const char* capability : {"membership", "tags", "commands"})
-        write(QStringLiteral("CAP REQ :%1/%2 \r\n").arg(capabilityNamespace, QLatin1String(capability)).toUtf8());
-    write(QStringLiteral("JOIN #%1 \r\n").arg(m_channel).toLocal8Bit());
     loadBadges();
     return true;
 }
@@ -95,6 +100,8 @@ bool ChatTwitch::chatConnect(const QString& nick, const QString& channel)
 void ChatTwitch::chatDisconnect()
 {
     ++m_session;
+    m_failed = false;
+    m_logIn.clear();
     m_connectTimer.stop();
     if (m_badgeReply) {
         m_badgeReply->disconnect(this);
@@ -212,6 +219,10 @@ void ChatTwitch::showMessage(const TwitchMessage& message, int type)
 
 void ChatTwitch::socketError(QAbstractSocket::SocketError error)
 {
+    // The lines still buffered may fail again; the listeners hear of the connection once.
+    if (m_failed)
+        return;
+    m_failed = true;
     m_connectTimer.stop();
     qCWarning(lcChat) << "Twitch chat connection failed:" << error;
     // Re-established only by a new chatConnect.

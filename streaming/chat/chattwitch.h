@@ -69,7 +69,9 @@ private:
     QPointer<QNetworkReply> m_badgeReply;
     QTimer m_connectTimer;
     QByteArray m_readBuffer;
+    QByteArray m_logIn; // until the connection stands
     // Counts connections, so lines read for an old one stop when it is replaced.
     quint64 m_session = 0;
     qint64 m_droppedLogged = 0;
+    bool m_failed = false;
 };

@@ -14,6 +14,8 @@ ChatYouTube::ChatYouTube(ViewInterface* view)
       m_images(new ChatImageLoader(view, this))
 {
     m_timer.setSingleShot(true);
+    // A coarse timer may fire early; the interval is the service's lower bound.
+    m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &ChatYouTube::nextPageCall);
     connect(m_images, &ChatImageLoader::arrived, this, [this](const QString& url, const QImage& image) {
         notify(imageTag, QVariantMap{{QStringLiteral("url"), url}, {QStringLiteral("image"), image}});
