@@ -3,7 +3,8 @@
 set -euo pipefail
 packages=(cmake ninja-build g++ ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev
           qttranslations5-l10n libbenchmark-dev xauth xvfb fonts-dejavu-core
-          ffmpeg nginx libnginx-mod-rtmp srt-tools qtmultimedia5-dev libqt5multimedia5-plugins)
+          ffmpeg nginx libnginx-mod-rtmp srt-tools qtmultimedia5-dev libqt5multimedia5-plugins
+          libcommuni-dev)
 missing=()
 for p in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

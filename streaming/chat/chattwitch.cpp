@@ -193,7 +193,7 @@ void ChatTwitch::showMessage(const TwitchMessage& message, int type)
     desc.type = type;
     desc.author = message.displayName;
     desc.message = message.text;
-    desc.color = message.color.isEmpty() ? colorFor(message.displayName) : message.color;
+    desc.color = message.color < 0 ? colorFor(message.displayName) : TwitchMessage::colorName(message.color);
     desc.id = message.id;
     desc.badges = TwitchMessage::badgeNames(message.badges);
     QStringList badgeUrls;
@@ -202,7 +202,7 @@ void ChatTwitch::showMessage(const TwitchMessage& message, int type)
     QVariantList emotes;
     for (const TwitchEmote& emote : message.emotes) {
         const QString url =
-            ServiceConfig::url(ServiceConfig::TwitchEmotes, QStringLiteral("/emoticons/v1/%1/1.0").arg(emote.id)).toString();
+            ServiceConfig::url(ServiceConfig::TwitchEmotes, QStringLiteral("/emoticons/v1/%1/1.0").arg(emote.id())).toString();
         m_images->request(url);
         emotes.append(QVariantMap{{QStringLiteral("begin"), emote.begin},
                                   {QStringLiteral("length"), emote.length},

@@ -10,11 +10,18 @@
 #include <string_view>
 
 // An emote in a message: `length` UTF-16 units of the text from `begin` show its image.
+// The id is kept in place (no allocation): ids are short words.
 struct TwitchEmote {
+    static constexpr int maxIdLength = 64;
+
     int begin = 0;
     int length = 0;
-    QString id;
+    int idLength = 0;
+    char idBytes[maxIdLength];
+
+    QString id() const { return QString::fromLatin1(idBytes, idLength); }
 };
+Q_DECLARE_TYPEINFO(TwitchEmote, Q_PRIMITIVE_TYPE);
 
 // One Twitch chat message (a PRIVMSG line) as the chat shows it. Reading it is a pure
 // function of the line's bytes, the part of the chat that runs for every line.
@@ -24,9 +31,8 @@ struct TwitchMessage {
     // More emotes than this in one message are left as text.
     static constexpr int maxEmotes = 100;
 
-    QString login;       // the sender's nick
-    QString displayName; // "display-name", else the nick
-    QString color;       // "color" when it is "#RRGGBB"; empty otherwise
+    QString displayName; // "display-name", else the sender's nick
+    int color = -1;      // "color" as 0xRRGGBB when it is "#RRGGBB"; -1 otherwise
     QString channel;     // without the '#'
     QString text;        // without the "/me" wrapper
     QByteArray id;       // "id": the message's id
@@ -40,6 +46,8 @@ struct TwitchMessage {
     static bool parse(const IrcLine& line, TwitchMessage* message);
     static bool parse(std::string_view line, TwitchMessage* message) { return parse(IrcLine::split(line), message); }
 
+    // "#RRGGBB", or empty for no colour.
+    static QString colorName(int color);
     // "admin", "broadcaster", "global_mod", "mod", "staff", "subscriber", "turbo".
     static const QStringList& allBadgeNames();
     static QStringList badgeNames(int badges);

@@ -27,8 +27,8 @@ QString describe(const QByteArray& line)
         return QStringLiteral("not a message");
     QStringList emotes;
     for (const TwitchEmote& e : m.emotes)
-        emotes << QStringLiteral("%1+%2:%3").arg(e.begin).arg(e.length).arg(e.id);
-    return QStringList{m.displayName, m.color, TwitchMessage::badgeNames(m.badges).join(','), m.text, emotes.join(' ')}
+        emotes << QStringLiteral("%1+%2:%3").arg(e.begin).arg(e.length).arg(e.id());
+    return QStringList{m.displayName, TwitchMessage::colorName(m.color), TwitchMessage::badgeNames(m.badges).join(','), m.text, emotes.join(' ')}
         .join('|');
 }
 
@@ -107,6 +107,8 @@ private slots:
             << "@emotes=..:0-1/%2F..%2Fx:0-0/a.b:0-0/../x:2-2" + prefix + "hi!" << "kai|||hi!|2+1:x";
         QTest::newRow("ranges count characters, not UTF-16 units")
             << "@emotes=9:2-3" + prefix + "\xF0\x9F\x98\x80 \xC3\xA9\xC3\xA9" << QString::fromUtf8("kai|||😀 éé|3+2:9");
+        QTest::newRow("bytes that are no UTF-8") << QByteArray(prefix.mid(1) + "a\xff\xc3(b\xed\xa0\x80" "c\xf4\x90\x80\x80\xe2\x82")
+                                                 << "kai|||" + QString::fromUtf8("a\xff\xc3(b\xed\xa0\x80" "c\xf4\x90\x80\x80\xe2\x82") + "|";
         QTest::newRow("/me") << QByteArray("@emotes=7:0-1" + prefix + "\001ACTION waves\001") << "kai|||waves|0+2:7";
         QTest::newRow("HTML in the text stays text") << QByteArray(prefix.mid(1) + "<img src=x>&amp;")
                                                      << "kai|||<img src=x>&amp;|";
