@@ -13,7 +13,6 @@ ChatMessageView::ChatMessageView(QWidget* parent) : QTextBrowser(parent), m_plac
     setOpenLinks(false);
     setOpenExternalLinks(false);
     setUndoRedoEnabled(false);
-    document()->setMaximumBlockCount(maxLines);
 }
 
 void ChatMessageView::setImageSource(std::function<QImage(const QString&)> source)
@@ -30,9 +29,14 @@ void ChatMessageView::appendMessages(const QList<ChatDesc>& messages)
 {
     QScrollBar* bar = verticalScrollBar();
     const bool atBottom = bar->value() >= bar->maximum() - 4;
+    QTextCursor batch(document());
+    // One change for the whole batch, so the view lays out once.
+    batch.beginEditBlock();
     // Only the newest lines would stay in the document anyway.
     for (int i = qMax(0, messages.size() - maxLines); i < messages.size(); ++i)
         append(ChatHtml::render(messages.at(i)), ChatHtml::imageUrls(messages.at(i)));
+    trim();
+    batch.endEditBlock();
     if (atBottom)
         bar->setValue(bar->maximum());
 }
@@ -41,13 +45,28 @@ void ChatMessageView::appendNotice(const QString& text, bool warning)
 {
     const QString color = warning ? QStringLiteral("#D03030") : QStringLiteral("#808080");
     append(QStringLiteral("<span style=\"color:%1\"><i>%2</i></span>").arg(color, text.toHtmlEscaped()), {});
+    trim();
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+// Old lines go trimLines at a time: removing the first line moves every other, and the
+// view lays them all out again.
+void ChatMessageView::trim()
+{
+    if (document()->blockCount() <= maxLines + trimLines)
+        return;
+    const int remove = document()->blockCount() - maxLines;
+    QTextCursor cursor(document());
+    cursor.movePosition(QTextCursor::Start);
+    cursor.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor, remove);
+    cursor.removeSelectedText();
 }
 
 void ChatMessageView::append(const QString& html, const QStringList& images)
 {
-    if (m_images.size() + images.size() > maxImages)
+    if (m_images.size() + images.size() > maxImages || m_appended >= rebuildLines)
         rebuild();
+    ++m_appended;
     addImages(images);
     m_recent.append({html, images});
     while (m_recent.size() > maxLines)
@@ -84,26 +103,33 @@ void ChatMessageView::setImage(const QString& url, const QImage& image)
     viewport()->update();
 }
 
-// The document's resources only go with a clear(): start again with the newest lines, as
-// many as use half the images allowed.
+// A document only ever grows inside: removed text stays in its buffer, every colour and
+// picture it saw stays among its formats and resources. Only a clear() lets them go, so
+// now and then it starts again with the newest half of its lines (fewer when they would
+// need more than half the images allowed).
 void ChatMessageView::rebuild()
 {
+    m_appended = 0;
     QList<QPair<QString, QStringList>> kept;
     QSet<QString> images;
-    for (int i = m_recent.size() - 1; i >= 0; --i) {
-        QSet<QString> more = images;
+    for (int i = m_recent.size() - 1; i >= 0 && kept.size() < maxLines / 2; --i) {
+        int added = 0;
         for (const QString& url : m_recent.at(i).second)
-            more.insert(url);
-        if (more.size() > maxImages / 2)
+            added += images.contains(url) ? 0 : 1;
+        if (images.size() + added > maxImages / 2)
             break;
-        images = more;
+        for (const QString& url : m_recent.at(i).second)
+            images.insert(url);
         kept.prepend(m_recent.at(i));
     }
     m_recent = kept;
     m_images.clear();
     document()->clear();
+    QTextCursor batch(document());
+    batch.beginEditBlock();
     for (const auto& line : qAsConst(m_recent)) {
         addImages(line.second);
         insertLine(line.first);
     }
+    batch.endEditBlock();
 }

@@ -13,16 +13,21 @@
 #include <functional>
 
 // The chat's messages, newest at the bottom, as rich text built by ChatHtml (everything the
-// services sent is escaped). The document keeps the newest maxLines lines, and its images
-// (emotes, badges, pictures) are rebuilt from the chat's own cache when too many have
-// gathered, so a long show does not grow it.
+// services sent is escaped). The document keeps the newest maxLines lines (trimLines more
+// for a while) and is rebuilt
+// from them after every rebuildLines lines or when too many images have gathered, so a
+// long show does not grow it.
 class ChatMessageView : public QTextBrowser
 {
     Q_OBJECT
 
 public:
+    // The newest lines kept; up to trimLines more gather before the oldest go.
     static constexpr int maxLines = 500;
+    static constexpr int trimLines = 100;
     static constexpr int maxImages = 1000;
+    // Lines added before the document is rebuilt from the lines shown.
+    static constexpr int rebuildLines = 10 * maxLines;
 
     explicit ChatMessageView(QWidget* parent = nullptr);
 
@@ -38,6 +43,7 @@ public:
 private:
     void append(const QString& html, const QStringList& images);
     void insertLine(const QString& html);
+    void trim();
     void addImages(const QStringList& urls);
     void rebuild();
 
@@ -45,4 +51,5 @@ private:
     QSet<QString> m_images;                      // addresses the document holds
     QList<QPair<QString, QStringList>> m_recent; // the lines shown, with their images
     QImage m_placeholder;
+    int m_appended = 0;
 };

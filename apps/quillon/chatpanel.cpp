@@ -109,6 +109,7 @@ void ChatPanel::reconnect()
         return;
     }
     m_chat->addListener(this);
+    m_notShown = m_notShownTold = 0;
     ChatProvider* chat = m_chat.get();
     m_view->setImageSource([chat](const QString& url) { return chat->chatImage(url); });
     m_store.setChatProviders({m_chat.get()});
@@ -131,9 +132,11 @@ void ChatPanel::chatEvent(const QString& tag, const QVariant& data)
 {
     if (tag == ChatProvider::messageTag) {
         m_pending.append(data.value<ChatDesc>());
-        // Lines beyond what the view keeps are not worth holding.
-        if (m_pending.size() > ChatMessageView::maxLines)
+        // Shown at a pace a person can read; in a flood the older lines of a batch give way.
+        if (m_pending.size() > maxShownPerBatch) {
             m_pending.removeFirst();
+            ++m_notShown;
+        }
         if (!m_batch.isActive())
             m_batch.start();
     } else if (tag == ChatProvider::imageTag) {
@@ -162,6 +165,11 @@ void ChatPanel::flush()
     const QList<ChatDesc> batch = m_pending;
     m_pending.clear();
     m_view->appendMessages(batch);
+    if (m_notShown > m_notShownTold) {
+        m_notShownTold = m_notShown;
+        m_status->setText(tr("Connected to %1. A busy chat: %Ln message(s) not shown.", nullptr, m_notShown)
+                              .arg(m_room.title));
+    }
 }
 
 void ChatPanel::showFailure(const QString& reason)

@@ -23,14 +23,17 @@ class StreamingManager;
 
 // The console's live chat: the chat of a Twitch channel or YouTube broadcast of an account
 // signed in through the streaming dialog, read and answered without a browser. Messages
-// arrive in batches a few times a second, so a busy chat never holds up the console.
+// are shown in batches a few times a second, so a busy chat never holds up the console.
 class ChatPanel : public QDockWidget, public ChatListener, public ViewInterface
 {
     Q_OBJECT
 
 public:
-    // Messages shown together at most this often.
+    // Messages are shown together at most this often, and at most this many at a time:
+    // 400 lines a second is more than anyone reads, and it keeps the console responsive
+    // in a flood. The messages left out are counted in the status line.
     static constexpr int batchInterval = 50;
+    static constexpr int maxShownPerBatch = 20;
 
     ChatPanel(StreamingManager& store, ActivityLog* log, QWidget* parent = nullptr);
     ~ChatPanel() override;
@@ -72,6 +75,8 @@ private:
     ChatRoom m_room;
     QList<ChatDesc> m_pending;
     QTimer m_batch;
+    qint64 m_notShown = 0;
+    qint64 m_notShownTold = 0;
     // Declared last: it goes first, while the panel it tells is still whole.
     std::unique_ptr<ChatProvider> m_chat;
 };

@@ -104,13 +104,18 @@ private slots:
     {
         Console c;
         QVERIFY(c.connectTwitch());
-        QByteArray burst;
-        for (int i = 0; i < ChatMessageView::maxLines + 200; ++i)
-            burst += "@color=#123456 :ann!a@a PRIVMSG #kai :line " + QByteArray::number(i) + "\r\n";
-        c.irc.send(burst);
-        const QString last = QString("ann: line %1").arg(ChatMessageView::maxLines + 199);
-        QTRY_VERIFY(c.shown().endsWith(last));
-        QCOMPARE(c.control<ChatMessageView>("chatView")->lineCount(), ChatMessageView::maxLines);
+        // More than the view keeps, at a pace it shows them all.
+        const int lines = ChatMessageView::maxLines + ChatMessageView::trimLines + 50;
+        for (int i = 0; i < lines; ++i) {
+            c.irc.send("@color=#123456 :ann!a@a PRIVMSG #kai :line " + QByteArray::number(i) + "\r\n");
+            if (i % ChatPanel::maxShownPerBatch == 0)
+                QTest::qWait(2 * ChatPanel::batchInterval);
+        }
+        QTRY_VERIFY(c.shown().endsWith(QString("ann: line %1").arg(lines - 1)));
+        // The newest lines, no more than the view keeps.
+        const int shown = c.control<ChatMessageView>("chatView")->lineCount();
+        QVERIFY(shown >= ChatMessageView::maxLines && shown <= ChatMessageView::maxLines + ChatMessageView::trimLines);
+        QVERIFY(c.shown().startsWith(QString("ann: line %1\n").arg(lines - shown)));
         QCOMPARE(c.session->streamingManager().chatDescs().size(), StreamingManager::chatBufferSize);
     }
 };
