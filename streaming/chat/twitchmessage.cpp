@@ -59,12 +59,15 @@ bool assignUtf8(QString* out, std::string_view bytes)
         const __m128i zero = _mm_setzero_si128();
         while (at + 16 <= end) {
             const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-            if (_mm_movemask_epi8(bytes))
-                break;
+            // Never more units than bytes: the sixteen always fit, and only the ASCII ones count.
             _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_unpacklo_epi8(bytes, zero));
             _mm_storeu_si128(reinterpret_cast<__m128i*>(to + 8), _mm_unpackhi_epi8(bytes, zero));
-            at += 16;
-            to += 16;
+            const unsigned high = static_cast<unsigned>(_mm_movemask_epi8(bytes));
+            const int ascii = high ? __builtin_ctz(high) : 16;
+            at += ascii;
+            to += ascii;
+            if (high)
+                break;
         }
 #endif
         if (at == end)
@@ -434,7 +437,8 @@ bool TwitchMessage::parse(const IrcLine& line, TwitchMessage* message)
         message->channel = utf8(channel);
     message->color = readColor(color);
     message->id.resize(id.size() <= maxIdLength ? static_cast<int>(id.size()) : 0);
-    std::memcpy(message->id.data(), id.data(), static_cast<std::size_t>(message->id.size()));
+    if (!message->id.isEmpty())
+        std::memcpy(message->id.data(), id.data(), static_cast<std::size_t>(message->id.size()));
     message->badges = readBadges(badges);
     readEmotes(emotes, pairs, message->text, &message->emotes);
     return true;

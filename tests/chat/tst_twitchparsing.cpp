@@ -109,6 +109,9 @@ private slots:
             << "@emotes=9:2-3" + prefix + "\xF0\x9F\x98\x80 \xC3\xA9\xC3\xA9" << QString::fromUtf8("kai|||😀 éé|3+2:9");
         QTest::newRow("bytes that are no UTF-8") << QByteArray(prefix.mid(1) + "a\xff\xc3(b\xed\xa0\x80" "c\xf4\x90\x80\x80\xe2\x82")
                                                  << "kai|||" + QString::fromUtf8("a\xff\xc3(b\xed\xa0\x80" "c\xf4\x90\x80\x80\xe2\x82") + "|";
+        const QByteArray mixed = "Kappa caf\xc3\xa9 is the stream\xe2\x80\x99s best \xf0\x9f\x98\x80 moment of all, agreed? \xc3\xa9t\xc3\xa9";
+        QTest::newRow("long text, ASCII and not") << QByteArray("@emotes=25:0-4" + prefix + mixed)
+                                                  << "kai|||" + QString::fromUtf8(mixed) + "|0+5:25";
         QTest::newRow("/me") << QByteArray("@emotes=7:0-1" + prefix + "\001ACTION waves\001") << "kai|||waves|0+2:7";
         QTest::newRow("HTML in the text stays text") << QByteArray(prefix.mid(1) + "<img src=x>&amp;")
                                                      << "kai|||<img src=x>&amp;|";
