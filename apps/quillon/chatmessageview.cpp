@@ -1,18 +1,22 @@
 #include "quillon/chatmessageview.h"
 
 #include "chat/chathtml.h"
+#include "quillon/chatimageobject.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QUrl>
 
-ChatMessageView::ChatMessageView(QWidget* parent) : QTextBrowser(parent), m_placeholder(1, 1, QImage::Format_ARGB32)
+ChatMessageView::ChatMessageView(QWidget* parent)
+    : QPlainTextEdit(parent), m_placeholder(1, 1, QImage::Format_ARGB32), m_imageObject(new ChatImageObject(this))
 {
     m_placeholder.fill(Qt::transparent);
-    setOpenLinks(false);
-    setOpenExternalLinks(false);
+    setReadOnly(true);
     setUndoRedoEnabled(false);
+    setMaximumBlockCount(maxLines);
+    document()->documentLayout()->registerHandler(QTextFormat::ImageObject, m_imageObject);
 }
 
 void ChatMessageView::setImageSource(std::function<QImage(const QString&)> source)
@@ -35,7 +39,6 @@ void ChatMessageView::appendMessages(const QList<ChatDesc>& messages)
     // Only the newest lines would stay in the document anyway.
     for (int i = qMax(0, messages.size() - maxLines); i < messages.size(); ++i)
         append(ChatHtml::render(messages.at(i)), ChatHtml::imageUrls(messages.at(i)));
-    trim();
     batch.endEditBlock();
     if (atBottom)
         bar->setValue(bar->maximum());
@@ -45,21 +48,7 @@ void ChatMessageView::appendNotice(const QString& text, bool warning)
 {
     const QString color = warning ? QStringLiteral("#D03030") : QStringLiteral("#808080");
     append(QStringLiteral("<span style=\"color:%1\"><i>%2</i></span>").arg(color, text.toHtmlEscaped()), {});
-    trim();
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
-}
-
-// Old lines go trimLines at a time: removing the first line moves every other, and the
-// view lays them all out again.
-void ChatMessageView::trim()
-{
-    if (document()->blockCount() <= maxLines + trimLines)
-        return;
-    const int remove = document()->blockCount() - maxLines;
-    QTextCursor cursor(document());
-    cursor.movePosition(QTextCursor::Start);
-    cursor.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor, remove);
-    cursor.removeSelectedText();
 }
 
 void ChatMessageView::append(const QString& html, const QStringList& images)

@@ -8,23 +8,23 @@
 #include <QPair>
 #include <QSet>
 #include <QStringList>
-#include <QTextBrowser>
+#include <QPlainTextEdit>
 
 #include <functional>
 
+class ChatImageObject;
+
 // The chat's messages, newest at the bottom, as rich text built by ChatHtml (everything the
-// services sent is escaped). The document keeps the newest maxLines lines (trimLines more
-// for a while) and is rebuilt
+// services sent is escaped). A plain-text view: it lays out only the lines it shows, so
+// a flood costs little. The document keeps the newest maxLines lines and is rebuilt
 // from them after every rebuildLines lines or when too many images have gathered, so a
 // long show does not grow it.
-class ChatMessageView : public QTextBrowser
+class ChatMessageView : public QPlainTextEdit
 {
     Q_OBJECT
 
 public:
-    // The newest lines kept; up to trimLines more gather before the oldest go.
-    static constexpr int maxLines = 500;
-    static constexpr int trimLines = 100;
+    static constexpr int maxLines = 200;
     static constexpr int maxImages = 1000;
     // Lines added before the document is rebuilt from the lines shown.
     static constexpr int rebuildLines = 10 * maxLines;
@@ -43,7 +43,6 @@ public:
 private:
     void append(const QString& html, const QStringList& images);
     void insertLine(const QString& html);
-    void trim();
     void addImages(const QStringList& urls);
     void rebuild();
 
@@ -51,5 +50,6 @@ private:
     QSet<QString> m_images;                      // addresses the document holds
     QList<QPair<QString, QStringList>> m_recent; // the lines shown, with their images
     QImage m_placeholder;
+    ChatImageObject* m_imageObject;
     int m_appended = 0;
 };
