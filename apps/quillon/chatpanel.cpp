@@ -35,6 +35,8 @@ ChatPanel::ChatPanel(StreamingManager& store, ActivityLog* log, QWidget* parent)
     m_input->setObjectName(QStringLiteral("chatInput"));
     m_send->setObjectName(QStringLiteral("chatSend"));
     m_status->setWordWrap(true);
+    // Titles and service errors come from outside: never read as markup.
+    m_status->setTextFormat(Qt::PlainText);
     m_input->setPlaceholderText(tr("Message"));
     m_rooms->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_rooms->setMinimumContentsLength(12);
