@@ -1,6 +1,7 @@
 #include "chat/twitchmessage.h"
 
 #include <QVarLengthArray>
+#include <QtAlgorithms>
 
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -29,10 +30,6 @@ bool continuation(unsigned char c)
     return (c & 0xC0) == 0x80;
 }
 
-// Decodes UTF-8 into `out`, reusing its buffer: a record read line after line allocates
-// only when a text outgrows the last. Valid UTF-8 as QString::fromUtf8 reads it; a text
-// with anything invalid is left to QString::fromUtf8, so both agree on every byte. True
-// when a character beyond the BMP (a surrogate pair) was among them.
 // Bytes with anything that is not UTF-8, as QString::fromUtf8 reads them; true when the
 // result holds a surrogate pair.
 bool fallback(QString* out, std::string_view bytes)
@@ -45,6 +42,10 @@ bool fallback(QString* out, std::string_view bytes)
     return false;
 }
 
+// Decodes UTF-8 into `out`, reusing its buffer: a record read line after line allocates
+// only when a text outgrows the last. Valid UTF-8 as QString::fromUtf8 reads it; a text
+// with anything invalid is left to QString::fromUtf8, so both agree on every byte. True
+// when a character beyond the BMP (a surrogate pair) was among them.
 bool assignUtf8(QString* out, std::string_view bytes)
 {
     out->resize(static_cast<int>(bytes.size())); // never more UTF-16 units than bytes
@@ -63,7 +64,7 @@ bool assignUtf8(QString* out, std::string_view bytes)
             _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_unpacklo_epi8(bytes, zero));
             _mm_storeu_si128(reinterpret_cast<__m128i*>(to + 8), _mm_unpackhi_epi8(bytes, zero));
             const unsigned high = static_cast<unsigned>(_mm_movemask_epi8(bytes));
-            const int ascii = high ? __builtin_ctz(high) : 16;
+            const int ascii = high ? static_cast<int>(qCountTrailingZeroBits(high)) : 16;
             at += ascii;
             to += ascii;
             if (high)
@@ -110,7 +111,7 @@ bool assignUtf8(QString* out, std::string_view bytes)
 
 // The first `c` in [at, end), or end. Eight bytes at a time: the spans between separators
 // are short, where a call of memchr costs more than the search.
-inline __attribute__((always_inline)) const char* find(const char* at, const char* end, char c)
+Q_ALWAYS_INLINE const char* find(const char* at, const char* end, char c)
 {
     const std::uint64_t pattern = 0x0101010101010101ull * static_cast<unsigned char>(c);
     for (; at + 8 <= end; at += 8) {
@@ -119,7 +120,7 @@ inline __attribute__((always_inline)) const char* find(const char* at, const cha
         const std::uint64_t x = word ^ pattern;
         const std::uint64_t zero = (x - 0x0101010101010101ull) & ~x & 0x8080808080808080ull;
         if (zero)
-            return at + __builtin_ctzll(zero) / 8;
+            return at + qCountTrailingZeroBits(zero) / 8;
     }
     for (; at < end; ++at)
         if (*at == c)
@@ -141,7 +142,7 @@ void forEachPiece(std::string_view text, char separator, Piece&& piece)
         unsigned mask = static_cast<unsigned>(
             _mm_movemask_epi8(_mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(at)), pattern)));
         while (mask) {
-            const char* hit = at + __builtin_ctz(mask);
+            const char* hit = at + qCountTrailingZeroBits(mask);
             if (!piece(std::string_view(start, static_cast<std::size_t>(hit - start))))
                 return;
             start = hit + 1;
@@ -161,7 +162,7 @@ void forEachPiece(std::string_view text, char separator, Piece&& piece)
 }
 
 // The next piece of `rest` up to `separator`; `rest` loses it and the separator.
-inline __attribute__((always_inline)) std::string_view piece(std::string_view& rest, char separator)
+Q_ALWAYS_INLINE std::string_view piece(std::string_view& rest, char separator)
 {
     const char* end = rest.data() + rest.size();
     const char* at = find(rest.data(), end, separator);
