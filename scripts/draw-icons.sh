@@ -43,3 +43,8 @@ c -fill none -stroke '#9a9a9a' -strokewidth 6 -draw "ellipse 32,32 20,20 40,315"
 # output: a monitor on its stand
 c -fill '#7a7a7a' -draw "roundrectangle 4,8 60,46 4,4" -fill '#d0d0d0' -draw "rectangle 9,13 55,41" \
   -fill '#7a7a7a' -draw "rectangle 28,46 36,54" -draw "rectangle 18,54 46,58" appicons/output.png
+# chat: a speech bubble in the service's colour with three dots
+bubble() { c -fill "$2" -draw "roundrectangle 4,8 60,46 10,10" -draw "polygon 14,44 14,58 28,44" \
+  -fill white -draw "circle 20,27 20,22" -draw "circle 32,27 32,22" -draw "circle 44,27 44,22" "$1"; }
+bubble twitchchat.png '#6441a4'
+bubble youtubechat.png '#d4281d'

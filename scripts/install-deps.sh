@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(cmake ninja-build g++ ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev
           qttranslations5-l10n libbenchmark-dev xauth xvfb fonts-dejavu-core
           ffmpeg nginx libnginx-mod-rtmp srt-tools qtmultimedia5-dev libqt5multimedia5-plugins
-          qt5-image-formats-plugins)
+          qt5-image-formats-plugins libcommuni-dev)
 for arg in "$@"; do
     case "$arg" in
         --browser) STREAMING_WITH_BROWSER=1 ;;

@@ -153,6 +153,35 @@
     </message>
 </context>
 <context>
+    <name>ChatRooms</name>
+    <message>
+        <location filename="../streaming/chat/chatrooms.cpp" line="+34"/>
+        <source>Twitch: #%1</source>
+        <translation>Twitch&#xa0;: #%1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>YouTube: %1</source>
+        <translation>YouTube&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ChatTwitch</name>
+    <message>
+        <location filename="../streaming/chat/chattwitch.cpp" line="+128"/>
+        <source>The chat is not connected.</source>
+        <translation>Le chat n’est pas connecté.</translation>
+    </message>
+</context>
+<context>
+    <name>ChatYouTube</name>
+    <message>
+        <location filename="../streaming/chat/chatyoutube.cpp" line="+109"/>
+        <source>The chat is not connected.</source>
+        <translation>Le chat n’est pas connecté.</translation>
+    </message>
+</context>
+<context>
     <name>CodecPresetDialog</name>
     <message>
         <location filename="../streaming/codec/codecpresetdialog.ui" line="+14"/>

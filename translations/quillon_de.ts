@@ -69,6 +69,122 @@
     </message>
 </context>
 <context>
+    <name>ChatPanel</name>
+    <message>
+        <location filename="../apps/quillon/chatpanel.cpp" line="+20"/>
+        <source>Live Chat</source>
+        <translation>Live-Chat</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Send</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Message</source>
+        <translation>Nachricht</translation>
+    </message>
+    <message>
+        <location line="+51"/>
+        <source>Sign in to Twitch or YouTube in the streaming dialog to use the chat.</source>
+        <translation>Melden Sie sich im Streaming-Dialog bei Twitch oder YouTube an, um den Chat zu nutzen.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Not connected.</source>
+        <translation>Nicht verbunden.</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>the account is no longer signed in</source>
+        <translation>das Konto ist nicht mehr angemeldet</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Reconnect</source>
+        <translation>Neu verbinden</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Connecting to %1…</source>
+        <translation>Verbindung mit %1 wird hergestellt …</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Chat: connecting to %1.</source>
+        <translation>Chat: Verbindung mit %1 wird hergestellt.</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>Connected to %1.</source>
+        <translation>Mit %1 verbunden.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Chat: connected to %1.</source>
+        <translation>Chat: mit %1 verbunden.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Not sent: %1</source>
+        <translation>Nicht gesendet: %1</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+14"/>
+        <source>Connected to %1. A busy chat: %Ln message(s) not shown.</source>
+        <translation>
+            <numerusform>Mit %1 verbunden. Viel los im Chat: %Ln Nachricht nicht angezeigt.</numerusform>
+            <numerusform>Mit %1 verbunden. Viel los im Chat: %Ln Nachrichten nicht angezeigt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The chat connection failed: %1. Choose Reconnect to try again.</source>
+        <translation>Die Chat-Verbindung ist fehlgeschlagen: %1. Wählen Sie „Neu verbinden“, um es erneut zu versuchen.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Chat: %1</source>
+        <translation>Chat: %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the chat server refused the connection</source>
+        <translation>der Chat-Server hat die Verbindung abgelehnt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>the chat server closed the connection</source>
+        <translation>der Chat-Server hat die Verbindung geschlossen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>the chat server was not found</source>
+        <translation>der Chat-Server wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>the chat server did not answer</source>
+        <translation>der Chat-Server hat nicht geantwortet</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>the network is not reachable</source>
+        <translation>das Netzwerk ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>network error %1</source>
+        <translation>Netzwerkfehler %1</translation>
+    </message>
+</context>
+<context>
     <name>DataDirectory</name>
     <message>
         <location filename="../apps/quillon/datadirectory.cpp" line="+22"/>
@@ -660,7 +776,7 @@
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <location filename="../apps/quillon/mainwindow.cpp" line="+43"/>
+        <location filename="../apps/quillon/mainwindow.cpp" line="+44"/>
         <source>Data folder: %1</source>
         <translation>Datenordner: %1</translation>
     </message>
@@ -690,7 +806,12 @@
         <translation>Setup gespeichert (%1).</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+8"/>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <location line="+23"/>
         <source>Grab Still</source>
         <translation>Standbild erfassen</translation>
     </message>
@@ -716,17 +837,17 @@
     </message>
     <message>
         <location line="+7"/>
-        <location line="+20"/>
+        <location line="+21"/>
         <source>%1 - %2</source>
         <translation>%1 - %2</translation>
     </message>
     <message>
-        <location line="-18"/>
+        <location line="-19"/>
         <source>No saved servers</source>
         <translation>Keine gespeicherten Server</translation>
     </message>
     <message>
-        <location line="+17"/>
+        <location line="+18"/>
         <source>Unnamed</source>
         <translation>Unbenannt</translation>
     </message>

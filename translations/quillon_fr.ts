@@ -69,6 +69,122 @@
     </message>
 </context>
 <context>
+    <name>ChatPanel</name>
+    <message>
+        <location filename="../apps/quillon/chatpanel.cpp" line="+20"/>
+        <source>Live Chat</source>
+        <translation>Chat en direct</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Connect</source>
+        <translation>Connecter</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Send</source>
+        <translation>Envoyer</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <location line="+51"/>
+        <source>Sign in to Twitch or YouTube in the streaming dialog to use the chat.</source>
+        <translation>Connectez-vous à Twitch ou à YouTube dans la fenêtre de streaming pour utiliser le chat.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Not connected.</source>
+        <translation>Non connecté.</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>the account is no longer signed in</source>
+        <translation>le compte n’est plus connecté</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Reconnect</source>
+        <translation>Reconnecter</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Connecting to %1…</source>
+        <translation>Connexion à %1…</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Chat: connecting to %1.</source>
+        <translation>Chat&#xa0;: connexion à %1.</translation>
+    </message>
+    <message>
+        <location line="+29"/>
+        <source>Connected to %1.</source>
+        <translation>Connecté à %1.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Chat: connected to %1.</source>
+        <translation>Chat&#xa0;: connecté à %1.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Not sent: %1</source>
+        <translation>Non envoyé&#xa0;: %1</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+14"/>
+        <source>Connected to %1. A busy chat: %Ln message(s) not shown.</source>
+        <translation>
+            <numerusform>Connecté à %1. Chat très actif&#xa0;: %Ln message non affiché.</numerusform>
+            <numerusform>Connecté à %1. Chat très actif&#xa0;: %Ln messages non affichés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>The chat connection failed: %1. Choose Reconnect to try again.</source>
+        <translation>La connexion au chat a échoué&#xa0;: %1. Choisissez «&#xa0;Reconnecter&#xa0;» pour réessayer.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Chat: %1</source>
+        <translation>Chat&#xa0;: %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>the chat server refused the connection</source>
+        <translation>le serveur de chat a refusé la connexion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>the chat server closed the connection</source>
+        <translation>le serveur de chat a fermé la connexion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>the chat server was not found</source>
+        <translation>le serveur de chat est introuvable</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>the chat server did not answer</source>
+        <translation>le serveur de chat n’a pas répondu</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>the network is not reachable</source>
+        <translation>le réseau est inaccessible</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>network error %1</source>
+        <translation>erreur réseau %1</translation>
+    </message>
+</context>
+<context>
     <name>DataDirectory</name>
     <message>
         <location filename="../apps/quillon/datadirectory.cpp" line="+22"/>
@@ -660,7 +776,7 @@
         <translation>&amp;Quitter</translation>
     </message>
     <message>
-        <location filename="../apps/quillon/mainwindow.cpp" line="+43"/>
+        <location filename="../apps/quillon/mainwindow.cpp" line="+44"/>
         <source>Data folder: %1</source>
         <translation>Dossier de données&#xa0;: %1</translation>
     </message>
@@ -690,7 +806,12 @@
         <translation>Configuration enregistrée (%1).</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+8"/>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <location line="+23"/>
         <source>Grab Still</source>
         <translation>Capturer une image</translation>
     </message>
@@ -716,17 +837,17 @@
     </message>
     <message>
         <location line="+7"/>
-        <location line="+20"/>
+        <location line="+21"/>
         <source>%1 - %2</source>
         <translation>%1 - %2</translation>
     </message>
     <message>
-        <location line="-18"/>
+        <location line="-19"/>
         <source>No saved servers</source>
         <translation>Aucun serveur enregistré</translation>
     </message>
     <message>
-        <location line="+17"/>
+        <location line="+18"/>
         <source>Unnamed</source>
         <translation>Sans nom</translation>
     </message>

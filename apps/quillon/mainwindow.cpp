@@ -5,6 +5,7 @@
 #include "engine/quillonengine.h"
 #include "interface/fileoutputinterface.h"
 #include "quillon/encodinglogformatter.h"
+#include "quillon/chatpanel.h"
 #include "quillon/hostsession.h"
 #include "quillon/isorecorder.h"
 #include "quillon/stillgrabber.h"
@@ -85,6 +86,12 @@ MainWindow::MainWindow(HostSession& session, QWidget* parent)
     });
     connect(ui->actionReload, &QAction::triggered, this, &MainWindow::reloadStores);
     connect(ui->actionQuit, &QAction::triggered, this, &QWidget::close);
+
+    m_chatPanel = new ChatPanel(session.streamingManager(), session.log(), this);
+    addDockWidget(Qt::RightDockWidgetArea, m_chatPanel);
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    view->setObjectName(QStringLiteral("menuView"));
+    view->addAction(m_chatPanel->toggleViewAction());
 }
 
 // Kept dialogs are children and go with the window.
@@ -181,6 +188,7 @@ void MainWindow::refreshStoreLists()
 {
     refreshPresets();
     refreshServers();
+    m_chatPanel->reloadRooms(); // an account may have been signed in or out
 }
 
 void MainWindow::refreshRunning()

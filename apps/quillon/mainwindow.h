@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class ChatPanel;
 class CodecPreset;
 class HostSession;
 class QDialog;
@@ -49,4 +50,5 @@ private:
     HostSession& m_session;
     QHash<QString, QPointer<QDialog>> m_keptDialogs;
     QTimer m_runningTimer; // elapsed times and retry countdowns, once a second
+    ChatPanel* m_chatPanel = nullptr;
 };

@@ -34,6 +34,8 @@ const Entry entries[] = {
     {"twitch.identity", "https://id.twitch.tv"},
     {"twitch.ingest", "rtmp://live.twitch.tv"},
     {"twitch.irc", "irc.chat.twitch.tv"},
+    {"twitch.ircport", "6667"},
+    {"twitch.emotes", "https://static-cdn.jtvnw.net"},
     {"twitch.clientid", ""},
     {"ustream.home", "https://www.ustream.tv"},
     {"ustream.web", "https://www.ustream.tv"},

@@ -17,7 +17,8 @@ void pointAt(const QString& baseUrl)
         // Ingest and chat addresses are not HTTP hosts, the redirect is never contacted, and
         // server tables are JSON: tests that need one set it themselves.
         else if (!keyName.endsWith(QLatin1String(".ingest")) && !keyName.endsWith(QLatin1String(".servers"))
-                 && key != ServiceConfig::OAuthRedirect && key != ServiceConfig::TwitchIrc)
+                 && key != ServiceConfig::OAuthRedirect && key != ServiceConfig::TwitchIrc
+                 && key != ServiceConfig::TwitchIrcPort)
             qputenv(name.constData(), baseUrl.toUtf8());
     }
 }

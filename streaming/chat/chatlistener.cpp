@@ -1,0 +1,3 @@
+#include "chat/chatlistener.h"
+
+ChatListener::~ChatListener() = default;

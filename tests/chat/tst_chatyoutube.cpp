@@ -1,0 +1,145 @@
+#include "chat/chatlistener.h"
+#include "chat/chatyoutube.h"
+#include "chat/youtubechatpage.h"
+#include "support/servicefixture.h"
+#include "support/tempstores.h"
+
+#include <QtTest>
+
+// The YouTube chat against the HTTP fixture: pages by token at the service's interval,
+// author pictures, sending, and pages of the wrong shape.
+namespace {
+
+const QString messages = QStringLiteral("/youtube/v3/liveChat/messages");
+
+struct Recorder : ChatListener {
+    QStringList lines; // "tag: data"; a message as author|badges|text|picture
+    void chatEvent(const QString& tag, const QVariant& data) override
+    {
+        if (tag == ChatProvider::messageTag) {
+            const ChatDesc d = data.value<ChatDesc>();
+            QVERIFY(ChatProvider::colorTable().contains(d.color));
+            lines << "message: " + QStringList{d.author, d.badges.join(','), d.message, d.pictureUrl.path()}.join('|');
+        } else if (tag != ChatProvider::imageTag) {
+            lines << tag + ": " + data.toString();
+        }
+    }
+};
+
+QByteArray page(const QString& token, int interval, const QString& author, const QString& text)
+{
+    return QString(R"({"nextPageToken":"%1","pollingIntervalMillis":%2,"items":[{"id":"m-%1",)"
+                   R"("snippet":{"type":"textMessageEvent","displayMessage":"%4","textMessageDetails":{"messageText":"%4"}},)"
+                   R"("authorDetails":{"displayName":"%3","profileImageUrl":"%5/pic/%3.png","isChatModerator":true}}]})")
+        .arg(token)
+        .arg(interval)
+        .arg(author, text, qEnvironmentVariable("QUILLON_YOUTUBE_API"))
+        .toUtf8();
+}
+
+} // namespace
+
+class TestChatYouTube : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void readsPageAfterPage()
+    {
+        ServiceFixture f;
+        TempStores stores;
+        f.server.on("GET", messages, [](const HttpServer::Request& r) {
+            return HttpServer::json(r.query.contains("pageToken=p1") ? page("p2", 0, "Bea", "second")
+                                                                      : page("p1", 1500, "Al", "<i>first</i>"));
+        });
+        ChatYouTube chat(&f.view);
+        chat.setAccessToken("tok");
+        Recorder recorder;
+        chat.addListener(&recorder);
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(chat.chatConnect("Kai", "chat 1"));
+        QCOMPARE(recorder.lines, QStringList({"message: Al|mod|<i>first</i>|/pic/Al.png", "Connected: chat 1"}));
+        QCOMPARE(chat.pollingInterval(), 1500);
+        QTRY_COMPARE_WITH_TIMEOUT(recorder.lines.size(), 3, 5000);
+        QVERIFY(clock.elapsed() >= 1500);
+        QCOMPARE(recorder.lines.last(), "message: Bea|mod|second|/pic/Bea.png");
+        QCOMPARE(chat.pollingInterval(), 1000); // 0 asks no faster than once a second
+        QCOMPARE(f.requestLines().mid(0, 1), QStringList{"GET " + messages + "?liveChatId=chat%201&maxResults=200&"
+                                                           "part=id,snippet,authorDetails&access_token=tok"});
+        QTRY_VERIFY(f.requestLines().contains("GET /pic/Al.png"));
+        QVERIFY(f.requestLines().contains("GET " + messages + "?liveChatId=chat%201&pageToken=p1&"
+                                                              "part=id,snippet,authorDetails&access_token=tok"));
+        QCOMPARE(f.view.tags().filter("Obj").mid(0, 2), QStringList({"liveChatObj", "nextPageObj"}));
+        QCOMPARE(stores.streamingManager().chatDescs().size(), 2);
+        chat.chatDisconnect();
+    }
+
+    void sendsTextMessages()
+    {
+        ServiceFixture f;
+        f.serve({{"GET " + messages, page("p1", 60000, "Al", "hi")}, {"POST " + messages, R"({"id":"sent"})"}});
+        ChatYouTube chat(&f.view);
+        chat.setAccessToken("tok");
+        QVERIFY(chat.chatConnect(QString(), "c1"));
+        f.server.clearRequests();
+        chat.sendMessage("  hello\nthere  ");
+ QCOMPARE(f.requestLines().filter("POST"),
+                 QStringList{"POST " + messages + "?part=snippet&alt=json&access_token=tok | application/json "
+                             R"({"snippet":{"liveChatId":"c1","textMessageDetails":{"messageText":"hello there"},)"
+                             R"("type":"textMessageEvent"}})"});
+        QCOMPARE(f.view.tags().last(), "chatSendObj");
+    }
+
+    void pagesOfTheWrongShape_data()
+    {
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<QString>("failure");
+        QTest::newRow("items not a list") << QByteArray(R"({"nextPageToken":"p","items":{}})")
+                                          << "liveChatObj,The service sent a reply that could not be read.";
+        QTest::newRow("no next page token") << QByteArray(R"({"items":[]})")
+                                            << "liveChatObj,The service sent a reply that could not be read.";
+        QTest::newRow("service error") << QByteArray(R"({"error":{"code":403,"message":"The live chat is no longer live."}})")
+                                       << "liveChatObj,The live chat is no longer live.";
+    }
+    void pagesOfTheWrongShape()
+    {
+        QFETCH(QByteArray, reply);
+        ServiceFixture f;
+        f.serve({{"GET " + messages, reply}});
+        ChatYouTube chat(&f.view);
+        Recorder recorder;
+        chat.addListener(&recorder);
+        QVERIFY(!chat.chatConnect(QString(), "c1"));
+        QFETCH(QString, failure);
+        QCOMPARE(recorder.lines, QStringList{"Connect Failed: " + failure});
+    }
+
+    // Whatever a page says, the chat is asked no more than once a second, and at least once a minute.
+    void pollingIntervals_data()
+    {
+        QTest::addColumn<QByteArray>("interval");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("as given") << QByteArray("2500") << 2500;
+        QTest::newRow("zero") << QByteArray("0") << 1000;
+        QTest::newRow("negative") << QByteArray("-40") << 1000;
+        QTest::newRow("text") << QByteArray("\"5000\"") << 1000;
+        QTest::newRow("huge") << QByteArray("1e12") << 60000;
+    }
+    void pollingIntervals()
+    {
+        QFETCH(QByteArray, interval);
+        YouTubeChatPage page;
+        const QJsonObject reply =
+            QJsonDocument::fromJson(R"({"nextPageToken":"p","items":[1,{"snippet":{}}],"pollingIntervalMillis":)" + interval + "}")
+                .object();
+        QVERIFY(YouTubeChatPage::read(reply, &page));
+        QTEST(page.pollingInterval, "expected");
+        QVERIFY(page.messages.isEmpty()); // items of the wrong shape are left out
+    }
+};
+
+QTEST_MAIN(TestChatYouTube)
+#include "tst_chatyoutube.moc"
