@@ -6,7 +6,6 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QRegularExpression>
 #include <QSaveFile>
 
 #ifdef Q_OS_UNIX
@@ -91,6 +90,20 @@ bool isPlainName(const QString& name)
 {
     return !name.isEmpty() && !name.contains(QLatin1Char('/')) && !name.contains(QLatin1Char('\\'))
         && !name.startsWith(QLatin1Char('.')) && name.endsWith(QLatin1Char('.') + jsonSuffix);
+}
+
+// What QSaveFile leaves when the process dies between naming its copy and renaming it:
+// "name.json.XXXXXX" (or the note's ".pending-replace.XXXXXX").
+bool isCutShort(const QString& name)
+{
+    const int dot = name.size() - 7;
+    if (dot < 1 || name.at(dot) != QLatin1Char('.'))
+        return false;
+    for (int i = dot + 1; i < name.size(); ++i)
+        if (!name.at(i).isLetterOrNumber() || name.at(i).unicode() > 127)
+            return false;
+    const QStringRef stem = name.leftRef(dot);
+    return stem.endsWith(QLatin1Char('.') + jsonSuffix, Qt::CaseInsensitive) || stem == pendingName;
 }
 
 } // namespace
@@ -183,15 +196,6 @@ bool StoreFile::replace(const QString& oldPath, const QString& newPath, const QB
 
 void StoreFile::finishPending(const QString& directory)
 {
-    static const QRegularExpression cutShort(QStringLiteral("^(.*\\.json|\\.pending-replace)\\.[A-Za-z0-9]{6}$"),
-                                             QRegularExpression::CaseInsensitiveOption);
-    QDirIterator leftovers(directory, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
-    while (leftovers.hasNext()) {
-        leftovers.next();
-        if (cutShort.match(leftovers.fileName()).hasMatch())
-            QFile::remove(leftovers.filePath());
-    }
-
     const QString notePath = directory + QLatin1Char('/') + pendingName;
     if (!QFileInfo(notePath).isFile())
         return;
@@ -228,13 +232,17 @@ void StoreFile::forEachObject(const QString& directory, const std::function<void
     // Same entries as the name filter "*.json" (case-insensitive wildcard), matched
     // without a regular expression per file.
     const QString suffix = QLatin1Char('.') + jsonSuffix;
-    QDirIterator it(directory, QDir::Files | QDir::NoSymLinks | QDir::NoDotAndDotDot);
+    QDirIterator it(directory, QDir::Files | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot);
     // One buffer for the whole directory: no allocation per file.
     QByteArray buffer(16384, Qt::Uninitialized);
     while (it.hasNext()) {
         it.next();
-        if (!it.fileName().endsWith(suffix, Qt::CaseInsensitive))
+        const QString name = it.fileName();
+        if (!name.endsWith(suffix, Qt::CaseInsensitive) || name.startsWith(QLatin1Char('.'))) {
+            if (isCutShort(name))
+                QFile::remove(it.filePath());
             continue;
+        }
         int size = 0;
         if (!readWhole(it.filePath(), buffer, size))
             continue;
