@@ -53,7 +53,9 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
     // key or token in the query.
     const QUrl typed(raw);
     addSecret(&out->secrets, typed.password(QUrl::FullyDecoded));
-    static const QRegularExpression secretName(QStringLiteral("pass|key|secret|token|auth|sig"),
+    // By how the name ends: "stream_key" and "access_token" are secrets, "keyframe" is not.
+    static const QRegularExpression secretName(QStringLiteral("(pass(word|phrase)?|passwd|pwd|key|secret|token|auth|"
+                                                              "sig(nature)?)$"),
                                                QRegularExpression::CaseInsensitiveOption);
     for (const auto& [name, value] : QUrlQuery(typed).queryItems(QUrl::FullyDecoded))
         if (secretName.match(name).hasMatch())
