@@ -176,9 +176,14 @@
 <context>
     <name>ChatYouTube</name>
     <message>
-        <location filename="../streaming/chat/chatyoutube.cpp" line="+109"/>
+        <location filename="../streaming/chat/chatyoutube.cpp" line="+116"/>
         <source>The chat is not connected.</source>
         <translation>Der Chat ist nicht verbunden.</translation>
+    </message>
+    <message>
+        <location line="+57"/>
+        <source>Signing in to %1 is not configured for this installation.</source>
+        <translation>Die Anmeldung bei %1 ist für diese Installation nicht eingerichtet.</translation>
     </message>
 </context>
 <context>
@@ -997,7 +1002,7 @@
         <translation>Qualität:</translation>
     </message>
     <message>
-        <location filename="../streaming/recording/isocordersetup.cpp" line="+96"/>
+        <location filename="../streaming/recording/isocordersetup.cpp" line="+97"/>
         <source>Max ISO Recording: %1</source>
         <translation>Max. ISO-Aufnahmen: %1</translation>
     </message>
@@ -1341,7 +1346,7 @@
     </message>
     <message>
         <location line="+14"/>
-        <location filename="../streaming/recording/recordingsetup.cpp" line="+100"/>
+        <location filename="../streaming/recording/recordingsetup.cpp" line="+101"/>
         <source>Edit Naming</source>
         <translation>Benennung bearbeiten</translation>
     </message>
@@ -1687,7 +1692,7 @@
     <message>
         <location filename="../streaming/setup/streamingsetup.ui" line="+14"/>
         <location line="+7"/>
-        <location filename="../streaming/setup/streamingsetup.cpp" line="+373"/>
+        <location filename="../streaming/setup/streamingsetup.cpp" line="+374"/>
         <location line="+243"/>
         <source>Streaming</source>
         <translation>Streaming</translation>

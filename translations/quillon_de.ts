@@ -81,17 +81,22 @@
         <translation>Verbinden</translation>
     </message>
     <message>
+        <location line="+1"/>
+        <source>Super Chats</source>
+        <translation>Super Chats</translation>
+    </message>
+    <message>
         <location line="+4"/>
         <source>Send</source>
         <translation>Senden</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+14"/>
         <source>Message</source>
         <translation>Nachricht</translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+53"/>
         <source>Sign in to Twitch or YouTube in the streaming dialog to use the chat.</source>
         <translation>Melden Sie sich im Streaming-Dialog bei Twitch oder YouTube an, um den Chat zu nutzen.</translation>
     </message>
@@ -101,7 +106,7 @@
         <translation>Nicht verbunden.</translation>
     </message>
     <message>
-        <location line="+16"/>
+        <location line="+17"/>
         <source>the account is no longer signed in</source>
         <translation>das Konto ist nicht mehr angemeldet</translation>
     </message>
@@ -121,7 +126,25 @@
         <translation>Chat: Verbindung mit %1 wird hergestellt.</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location line="+12"/>
+        <source>The Super Chats could not be loaded: %1</source>
+        <translation>Die Super Chats konnten nicht geladen werden: %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Recent Super Chats of the channel:</source>
+        <translation>Letzte Super Chats des Kanals:</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+3"/>
+        <source>%n Super Chat(s) shown.</source>
+        <translation>
+            <numerusform>%n Super Chat angezeigt.</numerusform>
+            <numerusform>%n Super Chats angezeigt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+28"/>
         <source>Connected to %1.</source>
         <translation>Mit %1 verbunden.</translation>
     </message>
@@ -149,7 +172,8 @@
         <translation>Die Chat-Verbindung ist fehlgeschlagen: %1. Wählen Sie „Neu verbinden“, um es erneut zu versuchen.</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="-66"/>
+        <location line="+69"/>
         <source>Chat: %1</source>
         <translation>Chat: %1</translation>
     </message>
@@ -187,7 +211,7 @@
 <context>
     <name>DataDirectory</name>
     <message>
-        <location filename="../apps/quillon/datadirectory.cpp" line="+22"/>
+        <location filename="../apps/quillon/datadirectory.cpp" line="+28"/>
         <source>The data folder %1 could not be created.</source>
         <translation>Der Datenordner %1 konnte nicht angelegt werden.</translation>
     </message>
@@ -274,7 +298,7 @@
 <context>
     <name>EncodingLogFormatter</name>
     <message>
-        <location filename="../apps/quillon/encodinglogformatter.cpp" line="+14"/>
+        <location filename="../apps/quillon/encodinglogformatter.cpp" line="+15"/>
         <source>Start streaming</source>
         <translation>Stream starten</translation>
     </message>
@@ -324,7 +348,7 @@
         <translation>(keine URL)</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+9"/>
         <source> (key %1)</source>
         <translation> (Schlüssel %1)</translation>
     </message>
@@ -566,8 +590,8 @@
 <context>
     <name>FfmpegStreamTarget</name>
     <message>
-        <location filename="../host/engine/ffmpegstreamtarget.cpp" line="+48"/>
-        <location line="+98"/>
+        <location filename="../host/engine/ffmpegstreamtarget.cpp" line="+65"/>
+        <location line="+95"/>
         <source>The stream URL &quot;%1&quot; is not one the engine can send to (rtmp, rtmps, srt, rtsp, tcp or udp).</source>
         <translation>An die Stream-URL „%1“ kann die Engine nicht senden (rtmp, rtmps, srt, rtsp, tcp oder udp).</translation>
     </message>
@@ -605,7 +629,7 @@
 <context>
     <name>FileOutputInterface</name>
     <message>
-        <location filename="../host/interface/fileoutputinterface.cpp" line="+37"/>
+        <location filename="../host/interface/fileoutputinterface.cpp" line="+67"/>
         <source>Setup file could not be read: %1</source>
         <translation>Die Setup-Datei konnte nicht gelesen werden: %1</translation>
     </message>
@@ -615,13 +639,12 @@
         <translation>kein JSON-Objekt</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+17"/>
         <source>The unusable setup file %1 could not be kept aside; it is left unchanged.</source>
         <translation>Die unbrauchbare Setup-Datei %1 konnte nicht beiseitegelegt werden; sie bleibt unverändert.</translation>
     </message>
     <message>
-        <location line="+14"/>
-        <location line="+6"/>
+        <location line="+24"/>
         <source>Couldn&apos;t write the setup file %1: %2</source>
         <translation>Die Setup-Datei %1 konnte nicht geschrieben werden: %2</translation>
     </message>

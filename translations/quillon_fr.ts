@@ -81,17 +81,22 @@
         <translation>Connecter</translation>
     </message>
     <message>
+        <location line="+1"/>
+        <source>Super Chats</source>
+        <translation>Super Chats</translation>
+    </message>
+    <message>
         <location line="+4"/>
         <source>Send</source>
         <translation>Envoyer</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+14"/>
         <source>Message</source>
         <translation>Message</translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+53"/>
         <source>Sign in to Twitch or YouTube in the streaming dialog to use the chat.</source>
         <translation>Connectez-vous à Twitch ou à YouTube dans la fenêtre de streaming pour utiliser le chat.</translation>
     </message>
@@ -101,7 +106,7 @@
         <translation>Non connecté.</translation>
     </message>
     <message>
-        <location line="+16"/>
+        <location line="+17"/>
         <source>the account is no longer signed in</source>
         <translation>le compte n’est plus connecté</translation>
     </message>
@@ -121,7 +126,25 @@
         <translation>Chat&#xa0;: connexion à %1.</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location line="+12"/>
+        <source>The Super Chats could not be loaded: %1</source>
+        <translation>Impossible de charger les Super Chats&#xa0;: %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Recent Super Chats of the channel:</source>
+        <translation>Derniers Super Chats de la chaîne&#xa0;:</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+3"/>
+        <source>%n Super Chat(s) shown.</source>
+        <translation>
+            <numerusform>%n Super Chat affiché.</numerusform>
+            <numerusform>%n Super Chats affichés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+28"/>
         <source>Connected to %1.</source>
         <translation>Connecté à %1.</translation>
     </message>
@@ -149,7 +172,8 @@
         <translation>La connexion au chat a échoué&#xa0;: %1. Choisissez «&#xa0;Reconnecter&#xa0;» pour réessayer.</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="-66"/>
+        <location line="+69"/>
         <source>Chat: %1</source>
         <translation>Chat&#xa0;: %1</translation>
     </message>
@@ -187,7 +211,7 @@
 <context>
     <name>DataDirectory</name>
     <message>
-        <location filename="../apps/quillon/datadirectory.cpp" line="+22"/>
+        <location filename="../apps/quillon/datadirectory.cpp" line="+28"/>
         <source>The data folder %1 could not be created.</source>
         <translation>Le dossier de données %1 n&apos;a pas pu être créé.</translation>
     </message>
@@ -274,7 +298,7 @@
 <context>
     <name>EncodingLogFormatter</name>
     <message>
-        <location filename="../apps/quillon/encodinglogformatter.cpp" line="+14"/>
+        <location filename="../apps/quillon/encodinglogformatter.cpp" line="+15"/>
         <source>Start streaming</source>
         <translation>Démarrer le stream</translation>
     </message>
@@ -324,7 +348,7 @@
         <translation>(pas d&apos;URL)</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+9"/>
         <source> (key %1)</source>
         <translation> (clé %1)</translation>
     </message>
@@ -566,8 +590,8 @@
 <context>
     <name>FfmpegStreamTarget</name>
     <message>
-        <location filename="../host/engine/ffmpegstreamtarget.cpp" line="+48"/>
-        <location line="+98"/>
+        <location filename="../host/engine/ffmpegstreamtarget.cpp" line="+65"/>
+        <location line="+95"/>
         <source>The stream URL &quot;%1&quot; is not one the engine can send to (rtmp, rtmps, srt, rtsp, tcp or udp).</source>
         <translation>Le moteur ne peut pas envoyer vers l&apos;URL de stream «&#xa0;%1&#xa0;» (rtmp, rtmps, srt, rtsp, tcp ou udp).</translation>
     </message>
@@ -605,7 +629,7 @@
 <context>
     <name>FileOutputInterface</name>
     <message>
-        <location filename="../host/interface/fileoutputinterface.cpp" line="+37"/>
+        <location filename="../host/interface/fileoutputinterface.cpp" line="+67"/>
         <source>Setup file could not be read: %1</source>
         <translation>Le fichier de configuration n&apos;a pas pu être lu&#xa0;: %1</translation>
     </message>
@@ -615,13 +639,12 @@
         <translation>pas un objet JSON</translation>
     </message>
     <message>
-        <location line="+15"/>
+        <location line="+17"/>
         <source>The unusable setup file %1 could not be kept aside; it is left unchanged.</source>
         <translation>Le fichier de configuration inutilisable %1 n&apos;a pas pu être mis de côté&#xa0;; il reste inchangé.</translation>
     </message>
     <message>
-        <location line="+14"/>
-        <location line="+6"/>
+        <location line="+24"/>
         <source>Couldn&apos;t write the setup file %1: %2</source>
         <translation>Impossible d&apos;écrire le fichier de configuration %1&#xa0;: %2</translation>
     </message>

@@ -22,6 +22,7 @@ ChatPanel::ChatPanel(StreamingManager& store, ActivityLog* log, QWidget* parent)
       m_log(log),
       m_rooms(new QComboBox),
       m_connect(new QPushButton(tr("Connect"))),
+      m_superChats(new QPushButton(tr("Super Chats"))),
       m_status(new QLabel),
       m_view(new ChatMessageView),
       m_input(new QLineEdit),
@@ -30,6 +31,8 @@ ChatPanel::ChatPanel(StreamingManager& store, ActivityLog* log, QWidget* parent)
     setObjectName(QStringLiteral("chatPanel"));
     m_rooms->setObjectName(QStringLiteral("chatRooms"));
     m_connect->setObjectName(QStringLiteral("chatConnect"));
+    m_superChats->setObjectName(QStringLiteral("chatSuperChats"));
+    m_superChats->setEnabled(false);
     m_status->setObjectName(QStringLiteral("chatStatus"));
     m_view->setObjectName(QStringLiteral("chatView"));
     m_input->setObjectName(QStringLiteral("chatInput"));
@@ -46,6 +49,7 @@ ChatPanel::ChatPanel(StreamingManager& store, ActivityLog* log, QWidget* parent)
     auto* top = new QHBoxLayout;
     top->addWidget(m_rooms, 1);
     top->addWidget(m_connect);
+    top->addWidget(m_superChats);
     layout->addLayout(top);
     layout->addWidget(m_status);
     layout->addWidget(m_view, 1);
@@ -59,6 +63,7 @@ ChatPanel::ChatPanel(StreamingManager& store, ActivityLog* log, QWidget* parent)
     m_batch.setInterval(batchInterval);
     connect(&m_batch, &QTimer::timeout, this, &ChatPanel::flush);
     connect(m_connect, &QPushButton::clicked, this, &ChatPanel::reconnect);
+    connect(m_superChats, &QPushButton::clicked, this, &ChatPanel::showSuperChats);
     connect(m_send, &QPushButton::clicked, this, &ChatPanel::send);
     connect(m_input, &QLineEdit::returnPressed, this, &ChatPanel::send);
 
@@ -105,6 +110,7 @@ void ChatPanel::reconnect()
     m_chat.reset();
     m_room = m_roomList.at(index);
     m_chat = ChatRooms::open(m_room, this);
+    m_superChats->setEnabled(m_chat && m_chat->hasSuperChats());
     if (!m_chat) {
         showFailure(tr("the account is no longer signed in"));
         reloadRooms();
@@ -119,6 +125,26 @@ void ChatPanel::reconnect()
     m_status->setText(tr("Connecting to %1…").arg(m_room.title));
     m_log->info(tr("Chat: connecting to %1.").arg(m_room.title));
     m_chat->chatConnect(m_room.nick, m_room.room);
+}
+
+void ChatPanel::showSuperChats()
+{
+    if (!m_chat || !m_chat->hasSuperChats())
+        return;
+    flush();
+    QList<ChatDesc> events;
+    QString error;
+    if (!m_chat->loadSuperChats(&events, &error)) {
+        const QString line = tr("The Super Chats could not be loaded: %1").arg(error);
+        m_status->setText(line);
+        m_log->warning(tr("Chat: %1").arg(line));
+        return;
+    }
+    if (!events.isEmpty()) {
+        m_view->appendNotice(tr("Recent Super Chats of the channel:"), false);
+        m_view->appendMessages(events);
+    }
+    m_status->setText(tr("%n Super Chat(s) shown.", nullptr, events.size()));
 }
 
 void ChatPanel::send()

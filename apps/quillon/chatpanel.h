@@ -46,6 +46,8 @@ public slots:
     void reloadRooms();
     // Connects to the chosen chat again, from the start.
     void reconnect();
+    // Shows the recent Super Chats of the chosen YouTube chat's channel.
+    void showSuperChats();
 
 private:
     void chatEvent(const QString& tag, const QVariant& data) override;
@@ -66,6 +68,7 @@ private:
     ActivityLog* m_log;
     QComboBox* m_rooms;
     QPushButton* m_connect;
+    QPushButton* m_superChats;
     QLabel* m_status;
     ChatMessageView* m_view;
     QLineEdit* m_input;

@@ -47,6 +47,12 @@ public:
     virtual QPixmap chatIcon() const = 0;
     // An emote, badge or author picture that has arrived; a null image otherwise.
     virtual QImage chatImage(const QString& url) const = 0;
+    // Whether the service lists the paid messages of the channel's supporters (YouTube's
+    // Super Chats), which loadSuperChats() fetches.
+    virtual bool hasSuperChats() const { return false; }
+    // The channel's recent paid messages, oldest first, as messages of type SuperChat with
+    // their "amount". False with the reason in `error` when they could not be read.
+    virtual bool loadSuperChats(QList<ChatDesc>* events, QString* error);
 
     // The user's colour: drawn from the table on first sight, then kept.
     QString colorFor(const QString& user);

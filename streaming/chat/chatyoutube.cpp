@@ -2,6 +2,8 @@
 
 #include "chat/chatimageloader.h"
 #include "chat/youtubechatpage.h"
+#include "chat/youtubesuperchats.h"
+#include "provider/jsonreader.h"
 #include "provider/serviceconfig.h"
 
 #include <QJsonDocument>
@@ -78,19 +80,24 @@ bool ChatYouTube::readPage(const QJsonObject& reply, const QString& tag)
     m_interval = page.pollingInterval;
     const quint64 session = m_session;
     for (ChatDesc& desc : page.messages) {
-        desc.color = colorFor(desc.author);
-        const QString picture = desc.pictureUrl.toString();
-        const QImage image = m_images->image(picture);
-        if (!image.isNull())
-            desc.picture = QPixmap::fromImage(image);
-        else
-            m_images->request(picture);
+        complete(&desc);
         deliver(desc);
         if (session != m_session)
             return false; // a listener closed the chat
     }
     m_timer.start(m_interval);
     return true;
+}
+
+void ChatYouTube::complete(ChatDesc* desc)
+{
+    desc->color = colorFor(desc->author);
+    const QString picture = desc->pictureUrl.toString();
+    const QImage image = m_images->image(picture);
+    if (!image.isNull())
+        desc->picture = QPixmap::fromImage(image);
+    else
+        m_images->request(picture);
 }
 
 void ChatYouTube::failed()
@@ -135,4 +142,54 @@ void ChatYouTube::chatDisconnect()
 QImage ChatYouTube::chatImage(const QString& url) const
 {
     return m_images->image(url);
+}
+
+bool ChatYouTube::loadSuperChats(QList<ChatDesc>* events, QString* error)
+{
+    const QString tag = QStringLiteral("superChatObj");
+    const QJsonObject reply = get(QNetworkRequest(
+        apiUrl(QStringLiteral("/youtube/v3/superChatEvents?part=id,snippet&access_token=%1").arg(tokenItem()))));
+    QList<ChatDesc> list;
+    bool read = checkReply(reply, tag);
+    if (read && !YouTubeSuperChats::read(reply, &list))
+        read = unexpectedReply(tag);
+    if (!read) {
+        qCWarning(lcChat) << "YouTube Super Chats not read:" << lastError();
+        *error = lastError();
+        return false;
+    }
+    for (ChatDesc& desc : list)
+        complete(&desc);
+    *events = list;
+    return true;
+}
+
+bool ChatYouTube::exchangeStreamlabsCode(const QString& code)
+{
+    const QString clientId = ServiceConfig::value(ServiceConfig::StreamlabsClientId);
+    const QString clientSecret = ServiceConfig::value(ServiceConfig::StreamlabsClientSecret);
+    if (clientId.isEmpty() || clientSecret.isEmpty()) {
+        const QString service = QStringLiteral("Streamlabs");
+        setLastError(service, tr("Signing in to %1 is not configured for this installation.").arg(service));
+        qCWarning(lcChat).noquote() << service << "has no registered client; set"
+                                    << ServiceConfig::settingsKey(ServiceConfig::StreamlabsClientId) + QStringLiteral(",")
+                                    << ServiceConfig::settingsKey(ServiceConfig::StreamlabsClientSecret)
+                                    << "(docs/deployment.md)";
+        return false;
+    }
+    const QString tag = QStringLiteral("streamlabsTokenObj");
+    QString form = QStringLiteral("grant_type=%1&").arg(QStringLiteral("authorization_code"));
+    form += QStringLiteral("client_id=%1&").arg(encoded(clientId));
+    form += QStringLiteral("client_secret=%1&").arg(encoded(clientSecret));
+    form += QStringLiteral("redirect_uri=%1&").arg(encoded(ServiceConfig::redirectUrl()));
+    form += QStringLiteral("code=%1").arg(encoded(code));
+    const QJsonObject reply = post(
+        formRequest(ServiceConfig::url(ServiceConfig::StreamlabsApi, QStringLiteral("/api/v1.0/token"))), form.toUtf8());
+    if (!checkReply(reply, tag))
+        return false;
+    QString token;
+    if (!JsonReader::requiredText(reply, QStringLiteral("access_token"), &token))
+        return unexpectedReply(tag);
+    m_streamlabsToken = token;
+    return true;
 }

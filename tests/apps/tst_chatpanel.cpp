@@ -99,6 +99,37 @@ private slots:
         QVERIFY(c.connectTwitch());
     }
 
+    void showsSuperChats_data()
+    {
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<QString>("status");
+        QTest::addColumn<QString>("lastLine");
+        QTest::newRow("listed")
+            << QByteArray(R"({"items":[{"id":"s1","snippet":{"supporterDetails":{"displayName":"Ann"},)"
+                          R"("displayString":"€5.00","commentText":"<b>go</b> team"}}]})")
+            << "1 Super Chat(s) shown." << "Ann €5.00: <b>go</b> team";
+        QTest::newRow("wrong shape") << QByteArray(R"({"items":"none"})")
+                                     << "The Super Chats could not be loaded: superChatObj,The service sent a reply "
+                                        "that could not be read."
+                                     << "";
+    }
+    void showsSuperChats()
+    {
+        QFETCH(QByteArray, reply);
+        Console c;
+        c.services.serve({{"GET /youtube/v3/liveChat/messages", R"({"nextPageToken":"p","pollingIntervalMillis":60000,"items":[]})"},
+                          {"GET /youtube/v3/superChatEvents", reply}});
+        auto* superChats = c.control<QPushButton>("chatSuperChats");
+        QVERIFY(!superChats->isEnabled());
+        c.control<QComboBox>("chatRooms")->setCurrentIndex(1);
+        c.control<QPushButton>("chatConnect")->click();
+        QCOMPARE(c.control<QLabel>("chatStatus")->text(), "Connected to YouTube: Big Game.");
+        superChats->click();
+        QCOMPARE(c.services.requestLines().last(), "GET /youtube/v3/superChatEvents?part=id,snippet&access_token=yt");
+        QTEST(c.control<QLabel>("chatStatus")->text(), "status");
+        QTEST(c.shown().section('\n', -1), "lastLine");
+    }
+
     // However long the show, the view keeps the newest lines only.
     void viewStaysBounded()
     {

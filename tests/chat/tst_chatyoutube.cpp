@@ -117,6 +117,71 @@ private slots:
         QCOMPARE(recorder.lines, QStringList{"Connect Failed: " + failure});
     }
 
+    void exchangesStreamlabsCode_data()
+    {
+        QTest::addColumn<QByteArray>("clientId");
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<QString>("token");
+        QTest::addColumn<QString>("error");
+        QTest::newRow("token kept") << QByteArray("test-client")
+                                    << QByteArray(R"({"access_token":"sl-tok","token_type":"Bearer"})") << "sl-tok" << "";
+        QTest::newRow("service error") << QByteArray("test-client")
+                                       << QByteArray(R"({"error":"invalid_grant","error_description":"Used code."})") << ""
+                                       << "streamlabsTokenObj,invalid_grant\nUsed code.";
+        QTest::newRow("no token") << QByteArray("test-client") << QByteArray(R"({"token_type":"Bearer"})") << ""
+                                  << "streamlabsTokenObj";
+        QTest::newRow("not configured") << QByteArray() << QByteArray("{}") << ""
+                                        << "Streamlabs,Signing in to Streamlabs is not configured for this installation.";
+    }
+    void exchangesStreamlabsCode()
+    {
+        QFETCH(QByteArray, clientId);
+        QFETCH(QByteArray, reply);
+        QFETCH(QString, error);
+        ServiceFixture f;
+        qputenv("QUILLON_STREAMLABS_CLIENTID", clientId);
+        f.serve({{"POST /api/v1.0/token", reply}});
+        ChatYouTube chat(&f.view);
+        QCOMPARE(chat.exchangeStreamlabsCode("c/1 2"), error.isEmpty());
+        QTEST(chat.streamlabsToken(), "token");
+        QCOMPARE(chat.lastError(), expectedError(error));
+        QCOMPARE(f.requestLines(), clientId.isEmpty()
+                                       ? QStringList()
+                                       : QStringList{"POST /api/v1.0/token | form grant_type=authorization_code&"
+                                                     "client_id=test-client&client_secret=test-secret&"
+                                                     "redirect_uri=http%3A%2F%2Flocalhost%2Foauth2callback&code=c%2F1%202"});
+    }
+
+    void superChats_data()
+    {
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<QStringList>("events"); // author|amount|comment, or the error
+        QTest::newRow("oldest first, unreadable items left out")
+            << QByteArray(R"({"items":[{"snippet":{"supporterDetails":{"displayName":"Bo"},"displayString":"$2.00"}},7,)"
+                          R"({"snippet":{"supporterDetails":{"displayName":"Cy"},"commentText":"no amount"}},)"
+                          R"({"snippet":{"supporterDetails":{"displayName":"Al"},"displayString":"€1.00","commentText":"hi"}}]})")
+            << QStringList{"Al|€1.00|hi", "Bo|$2.00|"};
+        QTest::newRow("items not a list") << QByteArray(R"({"items":{}})") << QStringList{"superChatObj" + unreadableReply};
+        QTest::newRow("service error") << QByteArray(R"({"error":{"code":403,"message":"Forbidden"}})")
+                                       << QStringList{"superChatObj,Forbidden"};
+    }
+    void superChats()
+    {
+        QFETCH(QByteArray, reply);
+        ServiceFixture f;
+        f.serve({{"GET /youtube/v3/superChatEvents", reply}});
+        ChatYouTube chat(&f.view);
+        QList<ChatDesc> events;
+        QString error;
+        QStringList lines;
+        if (chat.loadSuperChats(&events, &error))
+            for (const ChatDesc& d : qAsConst(events))
+                lines << QStringList{d.author, d.attributes.value("amount").toString(), d.message}.join('|');
+        else
+            lines << error;
+        QTEST(lines, "events");
+    }
+
     // Whatever a page says, the chat is asked no more than once a second, and at least once a minute.
     void pollingIntervals_data()
     {
