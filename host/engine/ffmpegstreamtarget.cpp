@@ -49,6 +49,8 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
     addSecret(&out->secrets, s.key);
     addSecret(&out->secrets, s.password);
     addSecret(&out->secrets, s.passphrase);
+    // Services that take SRT put the stream key in the stream id.
+    addSecret(&out->secrets, s.streamId);
     // Operators also type credentials into the URL itself: a password before the host, or a
     // key or token in the query.
     const QUrl typed(raw);
