@@ -19,6 +19,18 @@ void addSecret(QStringList* secrets, const QString& secret)
             secrets->append(form);
 }
 
+// The user name and password of their own fields go before the host, unless the operator
+// typed credentials into the URL already.
+QString withCredentials(QString url, int hostStart, const CodecModel::Streaming& s)
+{
+    const QString host = url.mid(hostStart).section(QLatin1Char('/'), 0, 0);
+    if (s.username.isEmpty() || host.contains(QLatin1Char('@')))
+        return url;
+    const QString credentials = QString::fromUtf8(QUrl::toPercentEncoding(s.username)) + QLatin1Char(':')
+                              + QString::fromUtf8(QUrl::toPercentEncoding(s.password)) + QLatin1Char('@');
+    return url.insert(hostStart, credentials);
+}
+
 } // namespace
 
 QString FfmpegStreamTarget::maskedSecret(const QString& secret)
@@ -82,12 +94,7 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
             out->options << QStringLiteral("-rtmp_playpath") << s.key;
             out->display += QLatin1Char('/') + maskedSecret(s.key);
         }
-        if (!s.username.isEmpty()) {
-            const QString credentials = QString::fromUtf8(QUrl::toPercentEncoding(s.username)) + QLatin1Char(':')
-                                      + QString::fromUtf8(QUrl::toPercentEncoding(s.password)) + QLatin1Char('@');
-            url.insert(scheme.size() + 3, credentials);
-        }
-        out->url = url;
+        out->url = withCredentials(url, scheme.size() + 3, s);
         out->muxer = QStringLiteral("flv");
         out->options << QStringLiteral("-rtmp_live") << QStringLiteral("live") << QStringLiteral("-rw_timeout")
                      << QLatin1String(ioTimeoutUs) << QStringLiteral("-flvflags") << QStringLiteral("no_duration_filesize");
@@ -138,7 +145,7 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
         return true;
     }
     if (scheme == QLatin1String("rtsp")) {
-        out->url = raw;
+        out->url = withCredentials(raw, schemeEnd + 3, s);
         out->display = shown;
         out->muxer = QStringLiteral("rtsp");
         out->options << QStringLiteral("-rtsp_transport") << QStringLiteral("tcp") << QStringLiteral("-rw_timeout")
