@@ -25,6 +25,7 @@ public:
 
     // What the current client sent.
     const QByteArray& received() const { return m_received; }
+    bool hasClient() const { return !m_client.isNull(); }
     // Sends to the current client as one write.
     void send(const QByteArray& bytes);
     // Closes the current client's connection.

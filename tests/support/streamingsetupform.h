@@ -70,6 +70,15 @@ public:
 
     void add() const { button("addPreset")->click(); }
 
+    QStringList items(const char* list) const
+    {
+        QStringList texts;
+        const QComboBox* box = combo(list);
+        for (int i = 0; i < box->count(); ++i)
+            texts.append(box->itemText(i));
+        return texts;
+    }
+
     StreamingSetup& dialog;
 };
 
