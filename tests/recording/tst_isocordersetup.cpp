@@ -112,8 +112,6 @@ private slots:
         QTest::addColumn<QString>("bitrates"); // label, items, current
         QTest::addColumn<QString>("audioCodecs");
 
-        QTest::newRow("avi") << QStringList{"AVI"} << "MJPEG"
-                             << "Bitrate(kbps): 25000 50000 75000 100000 125000 150000 | 75000" << "PCM";
         // MOV has no rule of its own and keeps the masks of the format chosen before.
         QTest::newRow("mov after avi") << QStringList{"AVI", "MOV"} << "MJPEG"
                                        << "Bitrate(kbps): 25000 50000 75000 100000 125000 150000 | 75000" << "PCM";
