@@ -64,11 +64,9 @@ private slots:
         QCOMPARE(changed.count(), 1);
         QCOMPARE(rows(), (QStringList{label(h720), label(h1080), label(h1080loud), label(h1080fast), "--",
                                       label(hevc720), label(uhd), "--", label(mjpeg)}));
-        QVERIFY(button("customDel")->isEnabled() && button("customEdit")->isEnabled());
         // Items carry their preset; the recording and streaming parts are switched off.
         const CodecPreset first = presetList()->itemData(0).value<CodecPreset>();
-        QCOMPARE(first.videoCodec().height, 720);
-        QVERIFY(!first.local().enabled && !first.streaming().enabled);
+        QVERIFY(first.videoCodec().height == 720 && !first.local().enabled && !first.streaming().enabled);
 
         // Selecting a preset that is not listed leaves the choice alone.
         m_list->selectPreset(h1080);
@@ -98,7 +96,6 @@ private slots:
         const QStringList before{label(m_low), label(m_high)};
         QTest::newRow("add") << "customAdd" << true << "FHD (1920x1080)"
                              << before + QStringList{"H.264 2160 AUTO 2s 4Mbps, AACStereo 48kHz 128kbps"};
-        QTest::newRow("add cancelled") << "customAdd" << false << "FHD (1920x1080)" << before;
         // A changed label moves the file; the list is sorted again.
         QTest::newRow("edit") << "customEdit" << true << "HD (1280x720)"
                               << QStringList{label(m_high), "H.264 2160p29.97 2s 3Mbps, AACStereo 48kHz 128kbps"};
@@ -130,11 +127,9 @@ private slots:
         this->button(button.toLatin1())->click();
         QCOMPARE(driver.found(), !opensAt.isEmpty());
         QCOMPARE(MessageBox::shown().size(), opensAt.isEmpty() ? 1 : 0);
-        if (opensAt.isEmpty()) {
-            QCOMPARE(MessageBox::lastShown().kind, MessageBox::Kind::Question);
+        if (opensAt.isEmpty())
             QCOMPARE(MessageBox::lastShown().title + ' ' + MessageBox::lastShown().text,
                      QStringLiteral("Preset Are you sure you want to remove this item?"));
-        }
 
         QCOMPARE(rows(), after);
         QStringList files;
@@ -152,6 +147,7 @@ private slots:
     {
         write(m_low);
         m_list->setCodecMask(~0, ~0);
+        QVERIFY(button("customDel")->isEnabled() && button("customEdit")->isEnabled());
         button("customDel")->click();
         QVERIFY(entries(m_stores->codecDir()).isEmpty());
         QVERIFY(!button("customDel")->isEnabled() && !button("customEdit")->isEnabled());

@@ -32,8 +32,6 @@ private slots:
         QTest::newRow("unknown device") << "SDI 9" << "1080p50" << false << "SDI 9 is not connected.";
         QTest::newRow("format too large") << "SDI HD Port 1" << "2160p50" << false
                                           << "SDI HD Port 1 does not offer the format \"2160p50\".";
-        QTest::newRow("ndi without SD") << "NDI Output 1" << "576i50" << false
-                                        << "NDI Output 1 does not offer the format \"576i50\".";
         QTest::newRow("no format") << "VirtualCam" << "" << false << "VirtualCam does not offer the format \"\".";
     }
     void startOne()
@@ -56,9 +54,7 @@ private slots:
         if (window) {
             QVERIFY(window->isVisible());
             QVERIFY(window->windowFlags() & Qt::FramelessWindowHint);
-            const QRect screen = QGuiApplication::primaryScreen()->geometry();
-            QCOMPARE(window->geometry().topLeft(), screen.topLeft());
-            QVERIFY(screen.contains(window->geometry()));
+            QVERIFY(QGuiApplication::primaryScreen()->geometry().contains(window->geometry()));
             QVERIFY(qAbs(window->width() * 9 - window->height() * 16) < 16 * 2); // the format's shape
             QTRY_VERIFY(window->framesDrawn() >= 3);
         }

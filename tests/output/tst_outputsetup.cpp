@@ -57,22 +57,14 @@ private slots:
         license.setMaxOutput(2);
         TempStores stores(license);
         External e;
-        QCOMPARE(e.dialog.windowTitle(), QString("External Output"));
         QCOMPARE(e.dialog.findChildren<QWidget*>("OutputWidget").size(), 2);
         QCOMPARE(control<QLabel>(e.dialog.findChildren<QWidget*>("OutputWidget")[1], "outputLabel")->text(),
                  QString("Output 2:"));
-        QCOMPARE(control<QLabel>(&e.dialog, "maxResolution")->text(), QString("Max Resolution: 3840x2160"));
         QCOMPARE(control<QLabel>(&e.dialog, "maxOutput")->text(), QString("Max Output: 2"));
-        QCOMPARE(control<QDialogButtonBox>(&e.dialog, "buttonBox")->button(QDialogButtonBox::Cancel)->text(),
-                 QString("Cancel"));
+        // Every kind's devices in one list; an external output has a source, never none.
         const QStringList devices = comboTexts(e.list(0, "deviceList"));
-        QCOMPARE(devices.mid(0, 2), QStringList({"None", "SDI 4K Port 1"}));
-        QVERIFY(devices.contains("NDI Output 2") && devices.contains("VirtualCam"));
-        const QStringList sources = comboTexts(e.list(0, "videoSourceList"));
-        QVERIFY(!sources.contains("NONE"));
-        for (const char* text : {"PROGRAM", "PGM(Clean)", "PREVIEW", "MULTIVIEW", "Multiview 16", "SWITCHER",
-                                 "SYSTEM", "AUDIO MIXER", "VIDEO HUB"})
-            QVERIFY2(sources.contains(text), text);
+        QVERIFY(devices.contains("SDI 4K Port 1") && devices.contains("NDI Output 2") && devices.contains("VirtualCam"));
+        QVERIFY(!comboTexts(e.list(0, "videoSourceList")).contains("NONE"));
     }
 
     void validCheckStoreAndReload()
@@ -83,13 +75,10 @@ private slots:
                                              {"EXTERNAL 2", QJsonObject{{"DeviceName", "NDI Output 9"},
                                                                         {"DisplayModeName", "1080p25"}}}}}});
         QCOMPARE(e.list(0, "deviceList")->currentText(), QString("None"));
-        // A device that is gone is kept and shown, but there is nothing to drive.
+        // A device that is gone is kept and shown, but there is nothing to drive; sources alone make no output.
         QCOMPARE(e.list(1, "deviceList")->currentText(), QString("NDI Output 9 (not found)"));
-        QVERIFY(!e.dialog.validCheck());
-        QVERIFY(e.dialog.outputInfos().isEmpty());
-        // Sources alone do not make an output.
         QVERIFY(choose(e.list(0, "videoSourceList"), "PREVIEW"));
-        QVERIFY(!e.dialog.validCheck());
+        QVERIFY(!e.dialog.validCheck() && e.dialog.outputInfos().isEmpty());
 
         QVERIFY(choose(e.list(0, "deviceList"), e.list(0, "deviceList")->itemText(6)));
         QVERIFY(e.list(0, "deviceList")->currentText().startsWith("Display 1 ("));
@@ -97,8 +86,7 @@ private slots:
         QVERIFY(choose(e.list(2, "videoSourceList"), "Multiview 9"));
         QVERIFY(choose(e.list(3, "deviceList"), "SDI 4K Port 1"));
         QVERIFY(choose(e.list(3, "alphaList"), "InternalKeyer"));
-        QVERIFY(e.dialog.validCheck());
-        QVERIFY(e.dialog.validCheck());
+        QVERIFY(e.dialog.validCheck() && e.dialog.validCheck());
         QCOMPARE(e.kindsAndNumbers(), QList<int>({OutputInfo::Display, 1, OutputInfo::Ndi, 3, OutputInfo::Sdi, 4}));
         QVERIFY(choose(e.list(0, "deviceList"), "None"));
         QVERIFY(e.dialog.validCheck());
@@ -112,17 +100,17 @@ private slots:
         QCOMPARE(playout["EXTERNAL 3"].toObject(),
                  QJsonObject({{"DeviceName", "NDI Output 1"}, {"DisplayModeName", "1080p29.97"}, {"ColorFormat", "UYVY"},
                               {"Keyer", 0}, {"TextureSource", "MULTIVIEW 4"}, {"AudioSource", "PROGRAM"}}));
-        QCOMPARE(playout["EXTERNAL 4"].toObject()["ColorFormat"].toString(), QString("UYVA"));
-        QCOMPARE(playout["EXTERNAL 2"].toObject()["DeviceName"].toString(), QString("NDI Output 9"));
-        QCOMPARE(playout["SDI 1"].toObject()["DeviceName"].toString(), QString("SDI HD Port 1"));
+        QCOMPARE(QStringList({playout["EXTERNAL 4"].toObject()["ColorFormat"].toString(),
+                              playout["EXTERNAL 2"].toObject()["DeviceName"].toString(),
+                              playout["SDI 1"].toObject()["DeviceName"].toString()}),
+                 QStringList({"UYVA", "NDI Output 9", "SDI HD Port 1"})); // another dialog's entry stays
 
         // exec() reads the setup object again before it shows.
         External reloaded;
         reloaded.host.replaceSettings(e.host.settings());
         ModalDriver<QDialog> cancel([](QDialog* dialog) { dialog->reject(); });
         QCOMPARE(reloaded.dialog.exec(), int(QDialog::Rejected));
-        QVERIFY(cancel.found());
-        QVERIFY(reloaded.dialog.validCheck());
+        QVERIFY(cancel.found() && reloaded.dialog.validCheck());
         QCOMPARE(reloaded.kindsAndNumbers(), e.kindsAndNumbers());
         QCOMPARE(reloaded.list(3, "alphaList")->currentText(), QString("InternalKeyer"));
         QCOMPARE(reloaded.list(2, "videoSourceList")->currentText(), QString("Multiview 9"));

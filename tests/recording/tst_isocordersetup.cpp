@@ -112,12 +112,6 @@ private slots:
         QTest::addColumn<QString>("bitrates"); // label, items, current
         QTest::addColumn<QString>("audioCodecs");
 
-        QTest::newRow("avi") << QStringList{"AVI"} << "MJPEG"
-                             << "Bitrate(kbps): 25000 50000 75000 100000 125000 150000 | 75000" << "PCM";
-        QTest::newRow("flv") << QStringList{"FLV"}
-                             << "H.264 H.264 NVENC H.264 QSV H.264 AMF HEVC HEVC NVENC HEVC AMF AV1"
-                             << "Bitrate(kbps): 1000 1500 2000 2500 3000 4000 5000 6000 7000 8000 9000 12000 15000 20000 | 8000"
-                             << "AAC";
         // MOV has no rule of its own and keeps the masks of the format chosen before.
         QTest::newRow("mov after avi") << QStringList{"AVI", "MOV"} << "MJPEG"
                                        << "Bitrate(kbps): 25000 50000 75000 100000 125000 150000 | 75000" << "PCM";

@@ -64,29 +64,6 @@ private slots:
             QVERIFY2(!widget->isVisible(), qPrintable(widget->objectName()));
     }
 
-    void presetsAreNamedInOnePass_data()
-    {
-        QTest::addColumn<QStringList>("typed");
-        QTest::addColumn<QStringList>("names");
-
-        QTest::newRow("same name") << QStringList{"Cam", "Cam", "Cam"} << QStringList{"Cam", "Cam 2", "Cam 3"};
-        QTest::newRow("no name") << QStringList{"", ""} << QStringList{"Untitled", "Untitled 2"};
-        // One pass only: a later row can still collide with an earlier one.
-        QTest::newRow("one pass") << QStringList{"Cam 2", "Cam", "Cam"} << QStringList{"Cam 2", "Cam", "Cam 2"};
-    }
-    void presetsAreNamedInOnePass()
-    {
-        QFETCH(QStringList, typed);
-        QFETCH(QStringList, names);
-
-        open();
-        for (const QString& name : typed)
-            addPreset(name);
-        QCOMPARE(storedNames(), names);
-        QCOMPARE(rows()->currentRow(), names.size() - 1);
-        QVERIFY(MessageBox::shown().isEmpty());
-    }
-
     void rowsDescribeAndStartTheirPreset_data()
     {
         QTest::addColumn<QJsonObject>("changes");
@@ -98,9 +75,6 @@ private slots:
             << QJsonObject{{"VideoCodec", "MPEG-2"}, {"VideoField", 1}, {"VideoFrameRate", 59.94},
                            {"VideoKeyFrame", 1}, {"VideoBitRate", 25000}}
             << false << "MPEG-2 1080i59.94 1s 25000 | AAC Stereo 48kHz 128kbps" << 29.97;
-        QTest::newRow("progressive as is")
-            << QJsonObject{{"VideoFrameRate", 50}} << true << "H.264 1080p50 2s 6000 | AAC Stereo 48kHz 128kbps"
-            << 50.0;
         QTest::newRow("auto prores, progressive project")
             << QJsonObject{{"VideoCodec", "Apple ProRes"}, {"VideoHeight", 2160}, {"VideoFrameRate", 0},
                            {"VideoKeyFrame", 0}, {"VideoBitRate", 0}, {"VideoQuality", 9}, {"AudioCodec", "PCM"},
@@ -122,112 +96,77 @@ private slots:
         project.videoOutput().interlaced = projectInterlaced;
         QuillonEngine::setProjectPreset(project);
         open(QJsonArray{storedRow("Row", changes)});
-        QCOMPARE(row(0)->findChild<QLabel*>("presetName")->text(), QStringLiteral("Row"));
-        const QString video = row(0)->findChild<QLabel*>("videoCodec")->text();
-        QCOMPARE(video + " | " + row(0)->findChild<QLabel*>("audioCodec")->text(), summary);
+        QCOMPARE(row(0)->findChild<QLabel*>("videoCodec")->text() + " | " + row(0)->findChild<QLabel*>("audioCodec")->text(),
+                 summary);
 
         row(0)->findChild<QToolButton*>("encodingBtn")->click();
         QCOMPARE(QuillonEngine::encodingCalls().size(), 1);
         QVERIFY(qFuzzyCompare(QuillonEngine::encodingCalls().first().preset.videoCodec().frameRate, started));
         // The host hears of the row's own preset, not the engine's copy.
-        QCOMPARE(m_host->encodingEvents().size(), 1);
-        QVERIFY(m_host->encodingEvents().first().kind == 1 && m_host->encodingEvents().first().on);
-        QVERIFY(m_host->encodingEvents().first().preset == m_setup->codecPresets().first());
+        const auto event = m_host->encodingEvents().value(0);
+        QVERIFY(m_host->encodingEvents().size() == 1 && event.kind == 1 && event.on);
+        QVERIFY(event.preset == m_setup->codecPresets().first());
     }
 
-    void recordingLimit()
+    // Names are made unique in one pass (a later row can still collide with an earlier one), rows
+    // stop at the licence's limit, and removing asks first and never takes a recording row.
+    void namesLimitAndRemoval()
     {
         LicenseModel license;
-        license.setMaxRecording(2);
+        license.setMaxRecording(4);
         license.setAudioBusEnabled(false);
         makeStores(license);
-        open(QJsonArray{storedRow("Row 1"), storedRow("Row 2"), storedRow("Row 3")});
-        QCOMPARE(control<QLabel>("maxRecording")->text(), QStringLiteral("Max Recording: 2"));
+        open();
+        QCOMPARE(control<QLabel>("maxRecording")->text(), QStringLiteral("Max Recording: 4"));
         // Without the audio bus in the licence only the programme sources are offered.
         QCOMPARE(comboTexts(control("audioSourceList")), (QStringList{"PGM", "PGM(Clean)", "PVW"}));
-        // Stored rows beyond the limit are not shown, and loading writes nothing.
-        QCOMPARE(rows()->count(), 2);
-        QCOMPARE(rows()->currentRow(), 0);
-        addPreset("Three");
-        QCOMPARE(box(), QStringLiteral("2 Preset: Check the maximum number of recording.")); // a warning
-        QCOMPARE(rows()->count(), 2);
-        QCOMPARE(stored().size(), 3);
-
-        MessageBox::setNextAnswer(QMessageBox::Yes);
-        control<QToolButton>("removePreset")->click();
-        QCOMPARE(storedNames(), QStringList{"Row 2"});
-    }
-
-    void removeAsksFirst_data()
-    {
-        QTest::addColumn<int>("answer"); // NoButton: the row is recording
-        QTest::addColumn<QStringList>("left");
-        QTest::newRow("yes") << int(QMessageBox::Yes) << QStringList{"A", "C"};
-        QTest::newRow("no") << int(QMessageBox::No) << QStringList{"A", "B", "C"};
-        QTest::newRow("while recording") << int(QMessageBox::NoButton) << QStringList{"A", "B", "C"};
-    }
-    void removeAsksFirst()
-    {
-        QFETCH(int, answer);
-        QFETCH(QStringList, left);
-
-        open();
         QVERIFY(!control<QToolButton>("removePreset")->isEnabled());
-        for (const char* name : {"A", "B", "C"})
+        for (const char* name : {"Cam 2", "Cam", "Cam", "", "Five"})
             addPreset(name);
+        QCOMPARE(box(), QStringLiteral("2 Preset: Check the maximum number of recording.")); // a warning
+        const QStringList names{"Cam 2", "Cam", "Cam 2", "Untitled"};
+        QVERIFY(storedNames() == names && rows()->currentRow() == 3);
+
+        // Stored rows beyond the limit are not shown, and loading writes nothing.
+        m_host->setSettings("RECORDING", QJsonArray(stored()) << storedRow("Extra"));
+        open();
+        QVERIFY(rows()->count() == 4 && rows()->currentRow() == 0 && stored().size() == 5);
+
         rows()->setCurrentRow(1);
-        QVERIFY(control<QToolButton>("removePreset")->isEnabled());
-        if (answer == QMessageBox::NoButton)
-            row(1)->findChild<QToolButton*>("encodingBtn")->click();
-
-        MessageBox::setNextAnswer(QMessageBox::StandardButton(answer));
-        control<QToolButton>("removePreset")->click();
-        const bool busy = answer == QMessageBox::NoButton;
-        QCOMPARE(box(), QString(busy ? "2 Preset: Please try again after recording is finished."
-                                     : "1 Preset: Are you sure you want to remove this item?"));
-        QCOMPARE(storedNames(), left);
-        QCOMPARE(m_setup->isEncoding(), answer == QMessageBox::NoButton);
+        for (int answer : {QMessageBox::No, QMessageBox::NoButton, QMessageBox::Yes}) {
+            MessageBox::clear();
+            MessageBox::setNextAnswer(QMessageBox::StandardButton(answer));
+            const bool busy = answer == QMessageBox::NoButton; // the row is recording
+            if (busy)
+                row(1)->findChild<QToolButton*>("encodingBtn")->click();
+            control<QToolButton>("removePreset")->click();
+            QCOMPARE(box(), QString(busy ? "2 Preset: Please try again after recording is finished."
+                                         : "1 Preset: Are you sure you want to remove this item?"));
+            QCOMPARE(storedNames().size(), answer == QMessageBox::Yes ? 3 : 5);
+            if (busy)
+                row(1)->findChild<QToolButton*>("encodingBtn")->click();
+        }
+        QCOMPARE(storedNames(), (QStringList{"Cam 2", "Cam 2", "Untitled"}));
     }
 
-    void containerRestrictsCodecs_data()
+    // XOR, not AND-NOT: a codec missing from the licence's mask comes back with MP4 (MPEG-2 here).
+    void containerMaskIsExclusiveOr()
     {
-        QTest::addColumn<int>("availableMask");
-        QTest::addColumn<QStringList>("containers"); // chosen in this order
-        QTest::addColumn<QStringList>("codecs");
-        QTest::addColumn<int>("audioMask");
-
-        const int all = 0x7FFF;
-        QTest::newRow("flv at start") << all << QStringList() << QStringList{"H.264"} << 1;
-        QTest::newRow("mp4") << all << QStringList{"MP4"} << QStringList{"Apple ProRes", "H.264", "MJPEG", "WMV"} << 19;
-        QTest::newRow("mov keeps the last masks") << all << QStringList{"AVI", "MOV"} << QStringList{"MJPEG"} << 16;
-        // XOR, not AND-NOT: a codec missing from the available mask comes back.
-        QTest::newRow("mp4 xor") << (all & ~0x0080) << QStringList{"MP4"}
-                                 << QStringList{"Apple ProRes", "H.264", "MJPEG", "MPEG-2", "WMV"} << 19;
-    }
-    void containerRestrictsCodecs()
-    {
-        QFETCH(int, availableMask);
-        QFETCH(QStringList, containers);
-        QFETCH(QStringList, codecs);
-        QFETCH(int, audioMask);
-
         LicenseModel license;
-        license.setAvailableVideoMask(availableMask);
+        license.setAvailableVideoMask(0x7FFF & ~0x0080);
         makeStores(license);
         for (const char* codec : {"MPEG-2", "DV25", "WMV", "Apple ProRes"})
             QVERIFY(m_stores->codecManager().write(preset(codec, 1080, 50000)));
         open();
-        for (const QString& container : containers)
-            choose("containerList", container);
-
+        choose("containerList", "MP4");
         QStringList listed;
         const QComboBox* list = encoderList()->findChild<QComboBox*>("presetList");
         for (int i = 0; i < list->count(); ++i)
             listed << list->itemData(i).value<CodecPreset>().videoCodec().codec;
         listed.removeDuplicates();
         listed.removeAll(QString()); // the separators
-        QCOMPARE(listed, codecs);
-        QCOMPARE(encoderList()->outputAudioMask(), audioMask);
+        QCOMPARE(listed, (QStringList{"Apple ProRes", "H.264", "MJPEG", "MPEG-2", "WMV"}));
+        QCOMPARE(encoderList()->outputAudioMask(), 19);
     }
 
     void settingsRoundTrip()

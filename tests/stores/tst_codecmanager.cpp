@@ -42,12 +42,7 @@ private slots:
         mpeg2.videoCodec().bitRate = 2500;
         QTest::newRow("interlaced") << mpeg2 << "MPEG-2 1080i25 2.5Mbps";
         QTest::newRow("automatic rate") << videoOnly("H.264", 1080, 0) << "H.264 1080 AUTO";
-        QTest::newRow("negative rate") << videoOnly("HEVC", 720, -5, 1) << "HEVC 720 AUTO";
         QTest::newRow("ProRes above range") << videoOnly("Apple ProRes", 1080, 25, 0, 9) << "Apple ProRes 1080p25 XQ";
-        QTest::newRow("ProRes below range")
-            << videoOnly("Apple ProRes", 1080, 25, 0, -1) << "Apple ProRes 1080p25 PROXY";
-        QTest::newRow("profile only for the exact name")
-            << videoOnly("apple prores", 1080, 25, 0, 3) << "apple prores 1080p25";
         QTest::newRow("six channels are Mono, no audio rate")
             << withAudio(videoOnly("H.264", 1080, 50), "PCM", 6, 44100, 0) << "H.264 1080p50, PCMMono 44.1kHz";
         CodecPreset audioOnly = withAudio(videoOnly("H.264", 1080, 50), "AAC", 2, 22050, 64);
@@ -81,25 +76,12 @@ private slots:
 
     void unitTexts()
     {
-        QStringList rates;
-        for (int kbps : {999, 1000, 1234, 1500000, 1000000000})
-            rates << CodecManager::humanReadableSize(kbps);
-        QCOMPARE(rates, (QStringList{"999kbps", "1Mbps", "1.2Mbps", "1.5Gbps", "1000Gbps"}));
-        QStringList kHz;
-        for (int hz : {48000, 11025, 88200})
-            kHz << CodecManager::sampleRateTokHz(hz);
-        QCOMPARE(kHz, (QStringList{"48", "11.0", "88.2"}));
-    }
-
-    void fileMembersComeInFixedOrder()
-    {
-        TempStores stores;
-        QVERIFY(stores.codecManager().write(withAudio(videoOnly("H.264", 1080, 25), "AAC", 2, 48000, 128)));
-        const QByteArray text = readFile(stores.codecDir() + "/H.264 1080p25, AACStereo 48kHz 128kbps.json");
-        QCOMPARE(jsonKeys(text), QStringLiteral("VideoCodec Codec Width Height FrameRate Field KeyFrame BitRate "
-                                                "Quality Preset Tune Profile Bframes AudioCodec Enabled Codec "
-                                                "Channels SampleRate BitRate BitPerSamples"));
-        QVERIFY(text.contains("\n    \"VideoCodec\": {\n        \"Codec\": \"H.264\",\n"));
+        QStringList texts;
+        for (int kbps : {999, 1000, 1234, 1000000000})
+            texts << CodecManager::humanReadableSize(kbps);
+        for (int hz : {11025, 88200})
+            texts << CodecManager::sampleRateTokHz(hz);
+        QCOMPARE(texts, (QStringList{"999kbps", "1Mbps", "1.2Mbps", "1000Gbps", "11.0", "88.2"}));
     }
 
     void mistypedMembersReadAsDefaults()

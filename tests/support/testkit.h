@@ -26,16 +26,6 @@ inline bool writeFile(const QString& path, const QByteArray& bytes)
     return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
 }
 
-// The member names of a JSON text in the order they are written.
-inline QString jsonKeys(const QByteArray& text)
-{
-    QStringList keys;
-    const QRegularExpression member(QStringLiteral("\"(\\w+)\":"));
-    for (auto it = member.globalMatch(QString::fromUtf8(text)); it.hasNext();)
-        keys << it.next().captured(1);
-    return keys.join(QLatin1Char(' '));
-}
-
 // Every entry of a directory, hidden ones included, by name.
 inline QStringList entries(const QString& dir)
 {
