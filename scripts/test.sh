@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is needed, builds everything and runs every test: once plainly,
-# once under AddressSanitizer and UndefinedBehaviorSanitizer.
+# once under AddressSanitizer and UndefinedBehaviorSanitizer with leak checks at every exit
+# (tests/CMakeLists.txt, tests/lsan-suppressions.txt).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/install-deps.sh

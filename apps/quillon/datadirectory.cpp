@@ -16,8 +16,14 @@ QString DataDirectory::filePath(const QString& name) const
 
 bool DataDirectory::ensureExists(QString* error) const
 {
-    if (QDir().mkpath(m_path))
+    const bool existed = QDir(m_path).exists();
+    if (QDir().mkpath(m_path)) {
+        // Setup, settings and servers inside hold stream keys and passwords. A folder the
+        // operator chose and made is left as it is.
+        if (!existed)
+            QFile::setPermissions(m_path, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
         return true;
+    }
     if (error)
         *error = tr("The data folder %1 could not be created.").arg(QDir::toNativeSeparators(m_path));
     return false;

@@ -1,5 +1,6 @@
 #include "quillon/encodinglogformatter.h"
 
+#include "engine/ffmpegstreamtarget.h"
 #include "records/codecpreset.h"
 #include "stores/codecmanager.h"
 #include "stores/filetag.h"
@@ -43,6 +44,12 @@ QString EncodingLogFormatter::destination(int kind, const CodecPreset& preset)
         if (preset.streaming().url.isEmpty())
             return tr("(no URL)");
         QString target = url.isValid() ? url.toDisplayString(QUrl::RemoveUserInfo) : preset.streaming().url;
+        // Whatever the engine would mask in its own lines (a token in the query, say) is
+        // masked here too.
+        FfmpegStreamTarget engineTarget;
+        QString refusal;
+        FfmpegStreamTarget::resolve(preset.streaming(), &engineTarget, &refusal);
+        target = FfmpegStreamTarget::mask(target, engineTarget.secrets);
         if (!preset.streaming().key.isEmpty())
             target += tr(" (key %1)").arg(maskedKey(preset.streaming().key));
         return target;

@@ -1,6 +1,8 @@
 #include "engine/ffmpegstreamtarget.h"
 
+#include <QRegularExpression>
 #include <QUrl>
+#include <QUrlQuery>
 
 namespace {
 
@@ -44,15 +46,27 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
     const QString scheme = schemeEnd > 0 ? raw.left(schemeEnd).toLower() : QString();
     const QString rest = schemeEnd > 0 ? raw.mid(schemeEnd + 3) : QString();
     const QString host = rest.section(QLatin1Char('/'), 0, 0).section(QLatin1Char('?'), 0, 0);
-    if (scheme.isEmpty() || host.isEmpty()) {
-        *refusal = tr("The stream URL \"%1\" is not one the engine can send to (rtmp, rtmps, srt, rtsp, tcp or udp).")
-                       .arg(raw);
-        return false;
-    }
-    const bool hasPort = host.contains(QLatin1Char(':')) && !host.endsWith(QLatin1Char(']'));
     addSecret(&out->secrets, s.key);
     addSecret(&out->secrets, s.password);
     addSecret(&out->secrets, s.passphrase);
+    // Operators also type credentials into the URL itself: a password before the host, or a
+    // key or token in the query.
+    const QUrl typed(raw);
+    addSecret(&out->secrets, typed.password(QUrl::FullyDecoded));
+    // By how the name ends: "stream_key" and "access_token" are secrets, "keyframe" is not.
+    static const QRegularExpression secretName(QStringLiteral("(pass(word|phrase)?|passwd|pwd|key|secret|token|auth|"
+                                                              "sig(nature)?)$"),
+                                               QRegularExpression::CaseInsensitiveOption);
+    for (const auto& [name, value] : QUrlQuery(typed).queryItems(QUrl::FullyDecoded))
+        if (secretName.match(name).hasMatch())
+            addSecret(&out->secrets, value);
+    const QString shown = mask(raw, out->secrets);
+    if (scheme.isEmpty() || host.isEmpty()) {
+        *refusal = tr("The stream URL \"%1\" is not one the engine can send to (rtmp, rtmps, srt, rtsp, tcp or udp).")
+                       .arg(shown);
+        return false;
+    }
+    const bool hasPort = host.contains(QLatin1Char(':')) && !host.endsWith(QLatin1Char(']'));
 
     if (scheme == QLatin1String("rtmp") || scheme == QLatin1String("rtmps")) {
         // Services take the key as the stream name after the application: rtmp://host/app/key.
@@ -61,7 +75,7 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
         QString url = scheme + QLatin1String("://") + rest;
         while (url.endsWith(QLatin1Char('/')))
             url.chop(1);
-        out->display = url;
+        out->display = mask(url, out->secrets);
         if (!s.key.isEmpty()) {
             out->options << QStringLiteral("-rtmp_playpath") << s.key;
             out->display += QLatin1Char('/') + maskedSecret(s.key);
@@ -86,7 +100,7 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
         QString hostPort = host;
         if (!hasPort) {
             if (s.port <= 0 || s.port > 65535) {
-                *refusal = tr("The SRT server \"%1\" has no port.").arg(raw);
+                *refusal = tr("The SRT server \"%1\" has no port.").arg(shown);
                 return false;
             }
             hostPort += QStringLiteral(":%1").arg(s.port);
@@ -123,7 +137,7 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
     }
     if (scheme == QLatin1String("rtsp")) {
         out->url = raw;
-        out->display = raw;
+        out->display = shown;
         out->muxer = QStringLiteral("rtsp");
         out->options << QStringLiteral("-rtsp_transport") << QStringLiteral("tcp") << QStringLiteral("-rw_timeout")
                      << QLatin1String(ioTimeoutUs);
@@ -131,11 +145,11 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
     }
     if (scheme == QLatin1String("tcp") || scheme == QLatin1String("udp")) {
         if (!hasPort) {
-            *refusal = tr("The stream URL \"%1\" needs a port.").arg(raw);
+            *refusal = tr("The stream URL \"%1\" needs a port.").arg(shown);
             return false;
         }
         out->url = raw;
-        out->display = raw;
+        out->display = shown;
         out->muxer = QStringLiteral("mpegts");
         if (scheme == QLatin1String("tcp"))
             out->options << QStringLiteral("-rw_timeout") << QLatin1String(ioTimeoutUs);
@@ -143,6 +157,6 @@ bool FfmpegStreamTarget::resolve(const CodecModel::Streaming& s, FfmpegStreamTar
             out->options << QStringLiteral("-pkt_size") << QStringLiteral("1316");
         return true;
     }
-    *refusal = tr("The stream URL \"%1\" is not one the engine can send to (rtmp, rtmps, srt, rtsp, tcp or udp).").arg(raw);
+    *refusal = tr("The stream URL \"%1\" is not one the engine can send to (rtmp, rtmps, srt, rtsp, tcp or udp).").arg(shown);
     return false;
 }

@@ -7,7 +7,13 @@
 #include <QJsonDocument>
 #include <QJsonParseError>
 #include <QLoggingCategory>
+#include <QRegularExpression>
 #include <QSaveFile>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
 
 Q_LOGGING_CATEGORY(lcHostSetup, "quillon.host.setup")
 
@@ -24,11 +30,35 @@ QString freeAsideName(const QString& fileName)
     return candidate;
 }
 
+// The rename reaches the disk only with its directory: without this a power cut can bring
+// back the previous setup.
+void syncDirectory(const QString& directory)
+{
+#ifdef Q_OS_UNIX
+    const int fd = ::open(QFile::encodeName(directory).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        ::fsync(fd);
+        ::close(fd);
+    }
+#else
+    Q_UNUSED(directory)
+#endif
+}
+
 } // namespace
 
 FileOutputInterface::FileOutputInterface(const QString& fileName, QObject* parent)
     : MemoryOutputInterface(QJsonObject(), parent), m_fileName(fileName)
 {
+    // What a save cut short by a crash left beside the file ("setup.json.XXXXXX"): it may hold
+    // keys, and only this host writes its setup file.
+    const QFileInfo info(fileName);
+    const QRegularExpression cutShort(QLatin1Char('^') + QRegularExpression::escape(info.fileName())
+                                      + QStringLiteral("\\.[A-Za-z0-9]{6}$"));
+    for (const QFileInfo& leftover : QDir(info.absolutePath()).entryInfoList(QDir::Files | QDir::NoSymLinks))
+        if (cutShort.match(leftover.fileName()).hasMatch())
+            QFile::remove(leftover.filePath());
+
     QFile file(fileName);
     if (!file.exists())
         return;
@@ -52,6 +82,8 @@ void FileOutputInterface::keepAside(const QString& reason)
     // Keep the operator's file for inspection rather than overwriting it.
     const QString aside = freeAsideName(m_fileName);
     if (QFile::rename(m_fileName, aside) || QFile::copy(m_fileName, aside)) {
+        // What is left of it may still hold keys.
+        QFile::setPermissions(aside, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
         m_corruptKeptAs = aside;
         qCWarning(lcHostSetup) << "Setup file" << m_fileName << "unusable (" << reason << "); kept as" << aside;
         return;
@@ -70,20 +102,25 @@ bool FileOutputInterface::save()
         qCWarning(lcHostSetup) << "Not writing over" << m_fileName << "which could not be kept aside";
         return false;
     }
-    QDir().mkpath(QFileInfo(m_fileName).absolutePath());
+    const QString directory = QFileInfo(m_fileName).absolutePath();
+    if (!QDir(directory).exists() && QDir().mkpath(directory))
+        QFile::setPermissions(directory, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    // Unbuffered, with every step checked: a failed final flush must not commit a short file.
     QSaveFile file(m_fileName);
-    if (!file.open(QIODevice::WriteOnly)) {
-        m_lastError = tr("Couldn't write the setup file %1: %2").arg(m_fileName, file.errorString());
-        qCWarning(lcHostSetup).noquote() << m_lastError;
-        return false;
-    }
-    file.write(QJsonDocument(settings()).toJson(QJsonDocument::Indented));
-    if (!file.commit()) {
+    const QByteArray contents = QJsonDocument(settings()).toJson(QJsonDocument::Indented);
+    // Stream keys, passwords and passphrases are in it: the owner's alone, at every rewrite.
+    const bool ok = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+        && file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner)
+        && file.write(contents) == contents.size();
+    if (!ok)
+        file.cancelWriting();
+    if (!ok || !file.commit()) {
         m_lastError = tr("Couldn't write the setup file %1: %2").arg(m_fileName, file.errorString());
         qCWarning(lcHostSetup).noquote() << m_lastError;
         return false;
     }
     m_lastError.clear();
+    syncDirectory(directory);
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "codec/codecdialogstate.h"
 
 #include "codec/codectables.h"
+#include "stores/privatesettings.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -77,7 +78,7 @@ void CodecDialogState::save() const
         {QLatin1String("SampleRate"), a.sampleRate},
         {QLatin1String("AudioBitRate"), a.bitRate},
     };
-    QSettings settings;
+    PrivateSettings settings; // the file also holds stream keys
     settings.setValue(QLatin1String(stateKey), QString::fromUtf8(QJsonDocument(o).toJson(QJsonDocument::Compact)));
     settings.sync();
 }

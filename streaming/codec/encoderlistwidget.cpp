@@ -152,14 +152,12 @@ void EncoderListWidget::customEdit()
         return;
     const CodecPreset edited = dialog.codecPreset();
     const QString label = CodecManager::namingFromPreset(&edited);
-    CodecManager* store = CodecManager::getInstancePtr();
-    if (store)
-        store->remove(preset);
     const int index = ui->presetList->currentIndex();
     ui->presetList->setItemText(index, label);
     ui->presetList->setItemData(index, QVariant::fromValue(edited));
-    if (store)
-        store->write(edited);
+    // One step: a crash between removing the old file and writing the new one would lose it.
+    if (CodecManager* store = CodecManager::getInstancePtr())
+        store->replace(preset, edited);
     refresh();
     selectText(label);
 }

@@ -13,6 +13,7 @@
 #include "records/licensemodel.h"
 #include "stores/filenamingdialog.h"
 #include "stores/filetag.h"
+#include "stores/privatesettings.h"
 #include "widgets/messagebox.h"
 
 #include <QFileDialog>
@@ -444,7 +445,7 @@ void IsoCorderSetup::showNamingEdit()
         return;
     const QString tag = dialog.fileTag();
     ui->fileTag->setText(tag);
-    QSettings settings;
+    PrivateSettings settings; // the file also holds stream keys
     settings.setValue(QLatin1String(fileTagKey), tag);
     settings.sync();
 }

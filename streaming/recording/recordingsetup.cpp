@@ -14,6 +14,7 @@
 #include "records/licensemodel.h"
 #include "stores/filenamingdialog.h"
 #include "stores/filetag.h"
+#include "stores/privatesettings.h"
 #include "widgets/messagebox.h"
 
 #include <QFileDialog>
@@ -252,7 +253,7 @@ void RecordingSetup::showNamingEdit()
         return;
     const QString tag = dialog.fileTag();
     ui->fileTag->setText(tag);
-    QSettings settings;
+    PrivateSettings settings; // the file also holds stream keys
     settings.setValue(QLatin1String(fileTagKey), tag);
     settings.sync();
 }

@@ -92,11 +92,8 @@ bool CustomServers::edit(QWidget* parent)
     channel.id = before.id;
     channel.provider = ServiceTables::customName();
     channel.title = uniqueTitle(channel.title, titles(index));
-    // A renamed server must not leave its old file behind as a second server.
-    if (channel.title != before.title)
-        if (StreamingManager* manager = StreamingManager::getInstancePtr())
-            manager->remove(before.title);
-    if (!store(channel, dialog.oauth()))
+    // A renamed server replaces its old file: no second server, and none lost in a crash.
+    if (!store(channel, dialog.oauth(), before.title))
         return false;
     m_list->setItemText(index, channel.title);
     setItem(index, channel, dialog.oauth());
@@ -112,14 +109,14 @@ QStringList CustomServers::titles(int except) const
     return list;
 }
 
-bool CustomServers::store(const Channel& channel, const OAuth& oauth)
+bool CustomServers::store(const Channel& channel, const OAuth& oauth, const QString& oldTitle)
 {
     StreamingManager* manager = StreamingManager::getInstancePtr();
     if (!manager) {
         qCWarning(lcStreamingSetup) << "no server store: server" << channel.title << "not saved";
         return false;
     }
-    if (!manager->write(channel, oauth)) {
+    if (!manager->replace(oldTitle.isNull() ? channel.title : oldTitle, channel, oauth)) {
         qCWarning(lcStreamingSetup) << "server" << channel.title << "could not be saved";
         return false;
     }

@@ -36,7 +36,8 @@ public:
 
 private:
     QStringList titles(int except = -1) const;
-    bool store(const Channel& channel, const OAuth& oauth);
+    // Writes the server, in place of the file of oldTitle when that is given.
+    bool store(const Channel& channel, const OAuth& oauth, const QString& oldTitle = QString());
     void setItem(int index, const Channel& channel, const OAuth& oauth);
 
     QComboBox* m_list;

@@ -26,6 +26,7 @@
 #include "setup/webdialog.h"
 #include "stores/filenamingdialog.h"
 #include "stores/filetag.h"
+#include "stores/privatesettings.h"
 #include "stores/streamingmanager.h"
 #include "widgets/messagebox.h"
 #include "widgets/splashwidget.h"
@@ -83,7 +84,7 @@ bool usesPasswordLogin(const Provider* provider)
 // "ql.stream.key" maps each service to the last key pasted for it.
 void rememberStreamKey(const QString& service, const QString& key)
 {
-    QSettings store;
+    PrivateSettings store;
     QVariantMap keys = store.value(SimpleProvider::streamKeySetting).toMap();
     keys.insert(service, key);
     store.setValue(SimpleProvider::streamKeySetting, keys);

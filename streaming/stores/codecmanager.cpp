@@ -92,6 +92,7 @@ QString CodecManager::presetDirectory() const
 void CodecManager::reloadPresets()
 {
     m_codecPresets.clear();
+    StoreFile::finishPending(presetDirectory());
     StoreFile::forEachObject(presetDirectory(), [this](const QJsonObject& object) {
         m_codecPresets.append(CodecPreset());
         readCodecPreset(object, m_codecPresets.last());
@@ -140,6 +141,14 @@ bool CodecManager::write(CodecPreset preset)
     const QString path = StoreFile::pathFor(presetDirectory(), namingFromPreset(&preset));
     return StoreFile::write(path, OrderedJson::indented(jsonFromCodecPreset(preset), fileKeyOrder()),
                             StoreFile::Shared);
+}
+
+bool CodecManager::replace(const CodecPreset& before, const CodecPreset& after)
+{
+    const QString directory = presetDirectory();
+    return StoreFile::replace(StoreFile::pathFor(directory, namingFromPreset(&before)),
+                              StoreFile::pathFor(directory, namingFromPreset(&after)),
+                              OrderedJson::indented(jsonFromCodecPreset(after), fileKeyOrder()), StoreFile::Shared);
 }
 
 bool CodecManager::remove(CodecPreset preset)

@@ -28,6 +28,9 @@ public:
     QJsonObject jsonFromCodecPreset(const CodecPreset& preset) const;
     bool write(CodecPreset preset);
     bool remove(CodecPreset preset);
+    // An edited preset takes the place of the one it was made from, in one step even when
+    // its label, and so its file, changes.
+    bool replace(const CodecPreset& before, const CodecPreset& after);
 
     // The directory the presets live in.
     QString presetDirectory() const;

@@ -82,10 +82,12 @@ QString StreamingManager::accountDirectory() const
 void StreamingManager::reloadPresets()
 {
     m_serverInfos.clear();
+    StoreFile::finishPending(serverDirectory());
     StoreFile::forEachObject(serverDirectory(), [this](const QJsonObject& object) {
         m_serverInfos.append(serverInfoFromJson(object));
     });
     m_accounts.clear();
+    StoreFile::finishPending(accountDirectory());
     StoreFile::forEachObject(accountDirectory(), [this](const QJsonObject& object) {
         m_accounts.append(accountFromJson(object));
     });
@@ -103,8 +105,8 @@ bool StreamingManager::writeAccount(const ServerInfo& account)
         return false;
     // Tokens: the folder is the owner's alone, as each file is.
     const QString directory = accountDirectory();
-    QDir().mkpath(directory);
-    QFile::setPermissions(directory, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    StoreFile::makePrivateDirectory(serverDirectory());
+    StoreFile::makePrivateDirectory(directory);
     if (!StoreFile::write(StoreFile::pathFor(directory, provider),
                           OrderedJson::indented(jsonFromAccount(account), fileKeyOrder()), StoreFile::OwnerOnly))
         return false;
@@ -134,11 +136,17 @@ const QList<ServerInfo>& StreamingManager::serverInfos() const
 
 bool StreamingManager::write(const Channel& channel, const OAuth& oauth)
 {
+    return replace(channel.title, channel, oauth);
+}
+
+bool StreamingManager::replace(const QString& oldTitle, const Channel& channel, const OAuth& oauth)
+{
     const ServerInfo info{channel, oauth, {}};
-    const QString path = StoreFile::pathFor(serverDirectory(), info.channel.title);
-    // The file holds a password and a stream key.
-    return StoreFile::write(path, OrderedJson::indented(jsonFromServerInfo(info), fileKeyOrder()),
-                            StoreFile::OwnerOnly);
+    const QString directory = serverDirectory();
+    // The files hold passwords and stream keys.
+    StoreFile::makePrivateDirectory(directory);
+    return StoreFile::replace(StoreFile::pathFor(directory, oldTitle), StoreFile::pathFor(directory, info.channel.title),
+                              OrderedJson::indented(jsonFromServerInfo(info), fileKeyOrder()), StoreFile::OwnerOnly);
 }
 
 bool StreamingManager::remove(const QString title)

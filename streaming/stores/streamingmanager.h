@@ -31,6 +31,8 @@ public:
     const QList<ServerInfo>& serverInfos() const;
     bool write(const Channel& channel, const OAuth& oauth);
     bool remove(const QString title);
+    // A server edited under a new title replaces its old file in one step.
+    bool replace(const QString& oldTitle, const Channel& channel, const OAuth& oauth);
 
     void setChatBuffer(const ChatDesc& desc);
     const QList<ChatDesc>& chatDescs() const;

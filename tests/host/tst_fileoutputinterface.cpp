@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+#include <sys/stat.h>
+
 using TestKit::readFile;
 using TestKit::writeFile;
 
@@ -22,6 +24,23 @@ class tst_FileOutputInterface : public QObject
     Q_OBJECT
 
 private slots:
+    // It holds stream keys: owner-only from the first save, its new folder too, and after
+    // every rewrite, also when it was left readable by others.
+    void ownerOnlyAtEverySave()
+    {
+        const mode_t umaskBefore = ::umask(022);
+        QTemporaryDir dir;
+        const QString path = dir.filePath("data/setup.json");
+        FileOutputInterface host(path);
+        for (int n = 0; n < 3; ++n) {
+            host.setSettings("STREAMING", QJsonArray{QJsonObject{{"StreamKey", QString::number(n)}}});
+            QCOMPARE(QFile::permissions(path), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
+            QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+        }
+        QCOMPARE(QFile::permissions(dir.filePath("data")) & (QFile::ReadOther | QFile::ExeOther | QFile::ReadGroup), 0);
+        ::umask(umaskBefore);
+    }
+
     void roundTripThroughTheFile()
     {
         QTemporaryDir dir;

@@ -1,3 +1,4 @@
+#include "stores/privatesettings.h"
 #include "support/filesizelimit.h"
 #include "support/tempstores.h"
 #include "support/testkit.h"
@@ -242,6 +243,54 @@ private slots:
         QVERIFY(manager.write(info.channel, info.oauth));
         QCOMPARE(readFile(path), text);
         QCOMPARE(modeBits(path), 0600);
+    }
+
+    // Server and account files and their folders, and the settings file that holds the stream
+    // keys, are the owner's alone from their first write and after every rewrite.
+    void secretsStayOwnerOnly()
+    {
+        const mode_t umaskBefore = ::umask(022);
+        TempStores stores;
+        QDir().mkpath(stores.serverDir());
+        QVERIFY(QFile::setPermissions(stores.serverDir(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
+                                                              | QFile::ReadOther | QFile::ExeOther));
+        StreamingManager& manager = stores.streamingManager();
+        ServerInfo account;
+        account.oauth.provider = "YouTube";
+        for (const char* title : {"Main", "Main", "Renamed"}) {
+            Channel channel;
+            channel.title = title;
+            QVERIFY(manager.replace("Main", channel, OAuth()));
+            account.oauth.accessToken = title;
+            QVERIFY(manager.writeAccount(account));
+        }
+        QCOMPARE(modeBits(stores.serverDir()), 0700);
+        QCOMPARE(modeBits(stores.serverDir() + "/Renamed.json"), 0600);
+        QCOMPARE(modeBits(manager.accountDirectory()), 0700);
+        QCOMPARE(modeBits(manager.accountDirectory() + "/YouTube.json"), 0600);
+
+        // A settings file in a new folder, and one that was left readable by others.
+        QTemporaryDir home;
+        QCoreApplication::setOrganizationName("Quillon"); // QSettings writes nothing without one
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home.filePath("new"));
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        const QString settingsFile = QSettings().fileName();
+        for (int n = 0; n < 2; ++n) {
+            for (int write = 0; write < 3; ++write) {
+                PrivateSettings settings;
+                settings.setValue("ql.stream.key", QVariantMap{{"Custom", QString::number(write)}});
+                settings.sync();
+                QCOMPARE(settings.status(), QSettings::NoError);
+                QCOMPARE(modeBits(settingsFile), 0600);
+            }
+            QCOMPARE(modeBits(QFileInfo(settingsFile).absolutePath()), n == 0 ? 0700 : 0755);
+            QVERIFY(QFile::setPermissions(settingsFile, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+            QVERIFY(QFile::setPermissions(QFileInfo(settingsFile).absolutePath(),
+                                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther
+                                              | QFile::ExeOther | QFile::ReadGroup | QFile::ExeGroup));
+        }
+        QSettings::setDefaultFormat(QSettings::NativeFormat);
+        ::umask(umaskBefore);
     }
 
     void chatBufferKeepsTheNewest()
