@@ -25,14 +25,14 @@ for arg in "$@"; do
     esac
 done
 
-for tool in clang++-14 clang-14; do
+for tool in clang++-14 llvm-symbolizer-14; do
     command -v "$tool" >/dev/null || { echo "fuzz.sh: $tool is missing (scripts/install-deps.sh --fuzz)" >&2; exit 2; }
 done
 
 build=$root/build-fuzz
 start=$(date +%s)
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-      -DCMAKE_C_COMPILER=clang-14 -DCMAKE_CXX_COMPILER=clang++-14 -DSTREAMING_FUZZ=ON \
+      -DCMAKE_CXX_COMPILER=clang++-14 -DSTREAMING_FUZZ=ON \
       -DSTREAMING_BUILD_TESTS=OFF -DSTREAMING_BUILD_BENCH=OFF -DSTREAMING_BUILD_APP=OFF \
       -DSTREAMING_BROWSER=OFF >/dev/null
 # Only the libraries the targets link, not the shared library or the translations.
