@@ -57,8 +57,9 @@ max_len() {
 }
 
 # Scratch files go to memory: the stores sync every write to disk.
-scratch=$(mktemp -d "${TMPDIR:-/tmp}/libstreaming-fuzz.XXXXXX")
-[ -d /dev/shm ] && [ -w /dev/shm ] && scratch=$(mktemp -d /dev/shm/libstreaming-fuzz.XXXXXX)
+base=${TMPDIR:-/tmp}
+[ -d /dev/shm ] && [ -w /dev/shm ] && base=/dev/shm
+scratch=$(mktemp -d "$base/libstreaming-fuzz.XXXXXX")
 trap 'rm -rf "$scratch"' EXIT
 export TMPDIR=$scratch
 export QT_QPA_PLATFORM=offscreen
