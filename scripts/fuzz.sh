@@ -9,8 +9,8 @@
 # fuzz_<name> names without the prefix; all by default. One target at a time, one job.
 # Exits non-zero on any crash, sanitizer report or leak; the input is left in
 # build-fuzz/artifacts/<name>/. STREAMING_FUZZ_MAX_SECONDS caps each run's time (the table
-# then shows how many inputs fitted). clang-14 and libclang-rt-14-dev come from
-# scripts/install-deps.sh --fuzz.
+# then shows how many inputs fitted); STREAMING_FUZZ_BUILD names another build folder.
+# clang-14 and libclang-rt-14-dev come from scripts/install-deps.sh --fuzz.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
@@ -29,7 +29,7 @@ for tool in clang++-14 llvm-symbolizer-14; do
     command -v "$tool" >/dev/null || { echo "fuzz.sh: $tool is missing (scripts/install-deps.sh --fuzz)" >&2; exit 2; }
 done
 
-build=$root/build-fuzz
+build=${STREAMING_FUZZ_BUILD:-$root/build-fuzz}
 start=$(date +%s)
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
       -DCMAKE_CXX_COMPILER=clang++-14 -DSTREAMING_FUZZ=ON \
