@@ -58,7 +58,7 @@ bool assignUtf8(QString* out, std::string_view bytes)
 #ifdef __SSE2__
         // Plain ASCII sixteen bytes at a time, widened to UTF-16.
         const __m128i zero = _mm_setzero_si128();
-        while (at + 16 <= end) {
+        while (end - at >= 16) {
             const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
             // Never more units than bytes: the sixteen always fit, and only the ASCII ones count.
             _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_unpacklo_epi8(bytes, zero));
@@ -110,11 +110,12 @@ bool assignUtf8(QString* out, std::string_view bytes)
 }
 
 // The first `c` in [at, end), or end. Eight bytes at a time: the spans between separators
-// are short, where a call of memchr costs more than the search.
+// are short, where a call of memchr costs more than the search. The loops here compare
+// what is left, never a pointer beyond the end (or off an empty view's null).
 Q_ALWAYS_INLINE const char* find(const char* at, const char* end, char c)
 {
     const std::uint64_t pattern = 0x0101010101010101ull * static_cast<unsigned char>(c);
-    for (; at + 8 <= end; at += 8) {
+    for (; end - at >= 8; at += 8) {
         std::uint64_t word;
         std::memcpy(&word, at, sizeof word);
         const std::uint64_t x = word ^ pattern;
@@ -138,7 +139,7 @@ void forEachPiece(std::string_view text, char separator, Piece&& piece)
     const char* const end = start + text.size();
 #ifdef __SSE2__
     const __m128i pattern = _mm_set1_epi8(separator);
-    for (; at + 16 <= end; at += 16) {
+    for (; end - at >= 16; at += 16) {
         unsigned mask = static_cast<unsigned>(
             _mm_movemask_epi8(_mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(at)), pattern)));
         while (mask) {

@@ -10,7 +10,6 @@
 #include "stores/snapshot.h"
 
 #include <QHash>
-#include <QStringList>
 
 namespace {
 
@@ -20,18 +19,26 @@ std::function<QDateTime()>& fileTagClock()
     return current;
 }
 
-// Replaces each token named by the text after a "%" with its value, in the
-// order the tokens appear; a "%" at the end or before an unknown letter stays.
-QString expand(QString tag, const QHash<QString, QString>& values)
+// Replaces each token ("%" and a letter) of the tag with its value in one pass over the
+// tag as typed; a "%" at the end or before an unknown letter stays. What a value brings in
+// is never read again: a name holding "%P" stays as it is, and a template cannot make
+// its own name grow with every token.
+QString expand(const QString& tag, const QHash<QString, QString>& values)
 {
-    const QStringList parts = tag.split(QLatin1Char('%'), Qt::SkipEmptyParts);
-    for (const QString& part : parts) {
-        const QString key = (QLatin1Char('%') + part).left(2);
-        const auto it = values.constFind(key);
-        if (it != values.constEnd())
-            tag.replace(key, it.value(), Qt::CaseSensitive);
+    QString result;
+    result.reserve(tag.size());
+    for (int at = 0; at < tag.size(); ++at) {
+        if (tag.at(at) == QLatin1Char('%') && at + 1 < tag.size()) {
+            const auto it = values.constFind(tag.mid(at, 2));
+            if (it != values.constEnd()) {
+                result += it.value();
+                ++at;
+                continue;
+            }
+        }
+        result += tag.at(at);
     }
-    return tag;
+    return result;
 }
 
 QHash<QString, QString> dateTimeValues()

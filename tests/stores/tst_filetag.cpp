@@ -19,6 +19,12 @@ CodecPreset recording(const QString& tag, const QString& codec = "H.264", int bi
     return preset;
 }
 
+CodecPreset named(CodecPreset preset, const QString& name)
+{
+    preset.setName(name);
+    return preset;
+}
+
 CodecPreset withSources(CodecPreset preset, const QString& sourceName, const QList<int>& keys)
 {
     preset.setSourceName(sourceName);
@@ -63,6 +69,8 @@ private slots:
         QTest::newRow("DV25 fixed rate and size") << rec(recording("%B %R", "DV25", 5000)) << "28770Kbps 720x480.mp4";
         QTest::newRow("MJPEG in whole Mbps") << rec(recording("%B", "MJPEG", 2999)) << "2Mbps.mp4";
         QTest::newRow("ProRes 5 is HQ") << rec(recording("%B", "Apple ProRes", 0, 5)) << "HQ.mp4";
+        // A template of many tokens once made a name holding them grow at each token.
+        QTest::newRow("values are not expanded again") << rec(named(recording("%P %P"), "[%P] %Y")) << "[%P] %Y [%P] %Y.mp4";
         QTest::newRow("source name wins") << rec(withSources(recording("[%S]"), "Cam 1", {0})) << "[Cam 1].mp4";
         QTest::newRow("other source") << rec(withSources(recording("[%S]"), {}, {5})) << "[].mp4";
         QTest::newRow("grab default") << still(0, "%P %Y-%M-%D %h-%m-%s %S") << "Grab 2024-03-07 09-05-02 PROGRAM.png";
