@@ -102,6 +102,17 @@ private slots:
         QVERIFY(f.view.openedUrls.isEmpty() && f.view.messages.isEmpty() && f.server.requests().isEmpty());
     }
 
+    // A deployment registers its own clients: none is built in.
+    void noClientCredentialIsBuiltIn()
+    {
+        for (int index = 0; index < ServiceConfig::KeyCount; ++index) {
+            const auto key = static_cast<ServiceConfig::Key>(index);
+            const QString name = ServiceConfig::keyName(key);
+            if (name.endsWith(".clientid") || name.endsWith(".clientsecret"))
+                QVERIFY2(ServiceConfig::defaultValue(key).isEmpty(), qPrintable(name));
+        }
+    }
+
     void environmentBeforeSettingsBeforeDefault()
     {
         ServiceEnvironment::reset();
