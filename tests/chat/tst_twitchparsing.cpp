@@ -141,6 +141,8 @@ private slots:
             << "red;background:url(x)" << "hi"
             << QVariantList{k, QVariantMap{{"begin", 0}, {"length", 1}, {"url", "file:///etc/passwd"}}}
             << "<span style=\"color:#808080\"><b>A&lt;i&gt;</b></span>: hi";
+        QTest::newRow("five digits are no colour") << "#12345" << "hi" << QVariantList()
+                                                   << "<span style=\"color:#808080\"><b>A&lt;i&gt;</b></span>: hi";
     }
     void richText()
     {
