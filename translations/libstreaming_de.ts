@@ -180,11 +180,6 @@
         <source>The chat is not connected.</source>
         <translation>Der Chat ist nicht verbunden.</translation>
     </message>
-    <message>
-        <location line="+57"/>
-        <source>Signing in to %1 is not configured for this installation.</source>
-        <translation>Die Anmeldung bei %1 ist für diese Installation nicht eingerichtet.</translation>
-    </message>
 </context>
 <context>
     <name>CodecPresetDialog</name>
@@ -661,7 +656,7 @@
 <context>
     <name>FileTag</name>
     <message>
-        <location filename="../streaming/stores/filetag.cpp" line="+66"/>
+        <location filename="../streaming/stores/filetag.cpp" line="+73"/>
         <location line="+41"/>
         <source>Untitled</source>
         <translation>Unbenannt</translation>
@@ -1317,7 +1312,7 @@
         <translation>Der Dienst hat eine Antwort gesendet, die nicht gelesen werden konnte.</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+13"/>
         <source>Signing in to %1 is not configured for this installation.</source>
         <translation>Die Anmeldung bei %1 ist für diese Installation nicht eingerichtet.</translation>
     </message>

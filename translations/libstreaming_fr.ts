@@ -180,11 +180,6 @@
         <source>The chat is not connected.</source>
         <translation>Le chat n’est pas connecté.</translation>
     </message>
-    <message>
-        <location line="+57"/>
-        <source>Signing in to %1 is not configured for this installation.</source>
-        <translation>La connexion à %1 n&apos;est pas configurée pour cette installation.</translation>
-    </message>
 </context>
 <context>
     <name>CodecPresetDialog</name>
@@ -661,7 +656,7 @@
 <context>
     <name>FileTag</name>
     <message>
-        <location filename="../streaming/stores/filetag.cpp" line="+66"/>
+        <location filename="../streaming/stores/filetag.cpp" line="+73"/>
         <location line="+41"/>
         <source>Untitled</source>
         <translation>Sans titre</translation>
@@ -1317,7 +1312,7 @@
         <translation>Le service a envoyé une réponse illisible.</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+13"/>
         <source>Signing in to %1 is not configured for this installation.</source>
         <translation>La connexion à %1 n&apos;est pas configurée pour cette installation.</translation>
     </message>

@@ -590,8 +590,8 @@
 <context>
     <name>FfmpegStreamTarget</name>
     <message>
-        <location filename="../host/engine/ffmpegstreamtarget.cpp" line="+65"/>
-        <location line="+95"/>
+        <location filename="../host/engine/ffmpegstreamtarget.cpp" line="+79"/>
+        <location line="+90"/>
         <source>The stream URL &quot;%1&quot; is not one the engine can send to (rtmp, rtmps, srt, rtsp, tcp or udp).</source>
         <translation>An die Stream-URL „%1“ kann die Engine nicht senden (rtmp, rtmps, srt, rtsp, tcp oder udp).</translation>
     </message>

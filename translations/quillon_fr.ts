@@ -590,8 +590,8 @@
 <context>
     <name>FfmpegStreamTarget</name>
     <message>
-        <location filename="../host/engine/ffmpegstreamtarget.cpp" line="+65"/>
-        <location line="+95"/>
+        <location filename="../host/engine/ffmpegstreamtarget.cpp" line="+79"/>
+        <location line="+90"/>
         <source>The stream URL &quot;%1&quot; is not one the engine can send to (rtmp, rtmps, srt, rtsp, tcp or udp).</source>
         <translation>Le moteur ne peut pas envoyer vers l&apos;URL de stream «&#xa0;%1&#xa0;» (rtmp, rtmps, srt, rtsp, tcp ou udp).</translation>
     </message>

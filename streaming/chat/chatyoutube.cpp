@@ -168,15 +168,10 @@ bool ChatYouTube::exchangeStreamlabsCode(const QString& code)
 {
     const QString clientId = ServiceConfig::value(ServiceConfig::StreamlabsClientId);
     const QString clientSecret = ServiceConfig::value(ServiceConfig::StreamlabsClientSecret);
-    if (clientId.isEmpty() || clientSecret.isEmpty()) {
-        const QString service = QStringLiteral("Streamlabs");
-        setLastError(service, tr("Signing in to %1 is not configured for this installation.").arg(service));
-        qCWarning(lcChat).noquote() << service << "has no registered client; set"
-                                    << ServiceConfig::settingsKey(ServiceConfig::StreamlabsClientId) + QStringLiteral(",")
-                                    << ServiceConfig::settingsKey(ServiceConfig::StreamlabsClientSecret)
-                                    << "(docs/deployment.md)";
-        return false;
-    }
+    if (clientId.isEmpty() || clientSecret.isEmpty())
+        return refuseUnconfigured({ServiceConfig::settingsKey(ServiceConfig::StreamlabsClientId),
+                                   ServiceConfig::settingsKey(ServiceConfig::StreamlabsClientSecret)},
+                                  QStringLiteral("Streamlabs"));
     const QString tag = QStringLiteral("streamlabsTokenObj");
     QString form = QStringLiteral("grant_type=%1&").arg(QStringLiteral("authorization_code"));
     form += QStringLiteral("client_id=%1&").arg(encoded(clientId));

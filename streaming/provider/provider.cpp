@@ -246,10 +246,11 @@ void Provider::setLastError(const QString& tag, const QString& detail)
     m_lastError = tag + QLatin1Char(',') + detail;
 }
 
-bool Provider::refuseUnconfigured(const QStringList& emptySettings)
+bool Provider::refuseUnconfigured(const QStringList& emptySettings, const QString& service)
 {
-    setLastError(m_name, tr("Signing in to %1 is not configured for this installation.").arg(m_name));
-    qCWarning(lcProvider).noquote() << m_name << "has no registered client; set" << emptySettings.join(QLatin1String(", "))
+    const QString name = service.isEmpty() ? m_name : service;
+    setLastError(name, tr("Signing in to %1 is not configured for this installation.").arg(name));
+    qCWarning(lcProvider).noquote() << name << "has no registered client; set" << emptySettings.join(QLatin1String(", "))
                                     << "(docs/deployment.md)";
     return false;
 }

@@ -118,8 +118,9 @@ protected:
     bool unexpectedReply(const QString& tag);
     void setLastError(const QString& tag, const QString& detail);
     // For a sign-in this installation has no registered client for (the named settings are
-    // empty): tells the operator so in lastError, logs the settings, gives false.
-    bool refuseUnconfigured(const QStringList& emptySettings);
+    // empty): tells the operator so in lastError, logs the settings, gives false. `service`
+    // names another service than this provider (a chat's helper service).
+    bool refuseUnconfigured(const QStringList& emptySettings, const QString& service = QString());
 
     ViewInterface* view() const { return m_view; }
     void addFeatures(quint32 features) { m_features |= features; }
