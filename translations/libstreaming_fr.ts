@@ -698,6 +698,14 @@
     </message>
 </context>
 <context>
+    <name>FolderChooser</name>
+    <message>
+        <location filename="../streaming/stores/folderchooser.cpp" line="+9"/>
+        <source>Open Directory</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+</context>
+<context>
     <name>ImageSetup</name>
     <message>
         <location filename="../streaming/recording/imagesetup.ui" line="+14"/>
@@ -825,11 +833,6 @@
         <location line="+16"/>
         <source>Are you sure you want to remove this item?</source>
         <translation>Voulez-vous vraiment supprimer cet élément&#xa0;?</translation>
-    </message>
-    <message>
-        <location line="+11"/>
-        <source>Open Directory</source>
-        <translation>Choisir un dossier</translation>
     </message>
 </context>
 <context>
@@ -1010,11 +1013,6 @@
         <location line="+0"/>
         <source>Check the maximum number of isocorder.</source>
         <translation>Vérifiez le nombre maximal d&apos;enregistrements ISO.</translation>
-    </message>
-    <message>
-        <location line="+255"/>
-        <source>Open Directory</source>
-        <translation>Choisir un dossier</translation>
     </message>
 </context>
 <context>
@@ -1453,11 +1451,6 @@
         <source>Untitled</source>
         <translation>Sans titre</translation>
     </message>
-    <message>
-        <location line="+22"/>
-        <source>Open Directory</source>
-        <translation>Choisir un dossier</translation>
-    </message>
 </context>
 <context>
     <name>ServerDialog</name>
@@ -1827,11 +1820,6 @@
         <location line="+1"/>
         <source>Are you sure you want to remove this item?</source>
         <translation>Voulez-vous vraiment supprimer cet élément&#xa0;?</translation>
-    </message>
-    <message>
-        <location line="+34"/>
-        <source>Open Directory</source>
-        <translation>Choisir un dossier</translation>
     </message>
     <message>
         <location filename="../streaming/setup/servicetables.cpp" line="+158"/>

@@ -8,10 +8,10 @@
 #include "records/licensemodel.h"
 #include "stores/filenamingdialog.h"
 #include "stores/filetag.h"
+#include "stores/folderchooser.h"
 #include "widgets/messagebox.h"
 #include "widgets/qmessageboxex.h"
 
-#include <QFileDialog>
 #include <QJsonArray>
 #include <QLoggingCategory>
 #include <QPushButton>
@@ -224,10 +224,7 @@ void ImageSetup::removePresetClicked()
 
 void ImageSetup::existingDirectory()
 {
-    const QString directory = QFileDialog::getExistingDirectory(
-        this, tr("Open Directory"), ui->folder->text(), QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
-    if (!directory.isEmpty())
-        ui->folder->setText(directory);
+    FolderChooser::choose(this, ui->folder, ui->folder->text());
 }
 
 void ImageSetup::showNamingEdit()

@@ -13,10 +13,10 @@
 #include "records/licensemodel.h"
 #include "stores/filenamingdialog.h"
 #include "stores/filetag.h"
+#include "stores/folderchooser.h"
 #include "stores/privatesettings.h"
 #include "widgets/messagebox.h"
 
-#include <QFileDialog>
 #include <QJsonArray>
 #include <QLoggingCategory>
 #include <QSettings>
@@ -421,10 +421,7 @@ void IsoCorderSetup::saveSetting()
 
 void IsoCorderSetup::existingDirectory()
 {
-    const QString directory = QFileDialog::getExistingDirectory(
-        this, tr("Open Directory"), FileTag::defaultFolder(), QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
-    if (!directory.isEmpty())
-        ui->folder->setText(directory);
+    FolderChooser::choose(this, ui->folder, FileTag::defaultFolder());
 }
 
 void IsoCorderSetup::showNamingEdit()

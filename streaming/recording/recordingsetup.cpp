@@ -7,17 +7,17 @@
 #include "interface/outputinterface.h"
 #include "recording/containermasks.h"
 #include "recording/encoderrows.h"
-#include "recording/presetnames.h"
 #include "recording/presetcontrols.h"
+#include "recording/presetnames.h"
 #include "recording/recordingpresetjson.h"
 #include "recording/sourcelists.h"
 #include "records/licensemodel.h"
 #include "stores/filenamingdialog.h"
 #include "stores/filetag.h"
+#include "stores/folderchooser.h"
 #include "stores/privatesettings.h"
 #include "widgets/messagebox.h"
 
-#include <QFileDialog>
 #include <QJsonArray>
 #include <QLoggingCategory>
 #include <QPushButton>
@@ -239,10 +239,7 @@ void RecordingSetup::videoSourceChange()
 
 void RecordingSetup::existingDirectory()
 {
-    const QString directory = QFileDialog::getExistingDirectory(
-        this, tr("Open Directory"), FileTag::defaultFolder(), QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
-    if (!directory.isEmpty())
-        ui->folder->setText(directory);
+    FolderChooser::choose(this, ui->folder, FileTag::defaultFolder());
 }
 
 void RecordingSetup::showNamingEdit()

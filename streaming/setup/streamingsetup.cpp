@@ -26,13 +26,13 @@
 #include "setup/webdialog.h"
 #include "stores/filenamingdialog.h"
 #include "stores/filetag.h"
+#include "stores/folderchooser.h"
 #include "stores/privatesettings.h"
 #include "stores/streamingmanager.h"
 #include "widgets/messagebox.h"
 #include "widgets/splashwidget.h"
 
 #include <QDesktopServices>
-#include <QFileDialog>
 #include <QJsonArray>
 #include <QLabel>
 #include <QNetworkAccessManager>
@@ -664,10 +664,7 @@ void StreamingSetup::videoSourceChange()
 
 void StreamingSetup::existingDirectory()
 {
-    const QString directory = QFileDialog::getExistingDirectory(
-        this, tr("Open Directory"), FileTag::defaultFolder(), QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
-    if (!directory.isEmpty())
-        ui->folder->setText(directory);
+    FolderChooser::choose(this, ui->folder, FileTag::defaultFolder());
 }
 
 void StreamingSetup::showNamingEdit()
