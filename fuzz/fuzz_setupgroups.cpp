@@ -19,9 +19,7 @@
 
 #include "fuzzsupport.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 
 namespace {
@@ -69,9 +67,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         file.write(reinterpret_cast<const char*>(data), static_cast<qint64>(size));
     }
     // A file that does not read is set aside; the host then starts from an empty setup.
-    const QJsonObject setup = FileOutputInterface(setupFile).settings();
-    for (const QFileInfo& aside : QDir(root).entryInfoList({QStringLiteral("setup.json.corrupt-*")}, QDir::Files))
-        QFile::remove(aside.filePath());
+    QJsonObject setup;
+    {
+        FileOutputInterface host(setupFile);
+        setup = host.settings();
+        if (!host.corruptFileKeptAs().isEmpty() && host.corruptFileKeptAs() != setupFile)
+            QFile::remove(host.corruptFileKeptAs());
+    }
 
     eachObject(setup.value(QLatin1String("RECORDING")), [](const QJsonObject& object) {
         RecordingPresetJson::toJson(RecordingPresetJson::fromJson(object));

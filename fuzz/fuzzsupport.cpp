@@ -49,13 +49,23 @@ private:
     qint64 m_read = 0;
 };
 
+// Made once, a child of the application, for the whole run.
+FuzzNetwork& sharedNetwork()
+{
+    static FuzzNetwork* network = new FuzzNetwork(QCoreApplication::instance());
+    return *network;
+}
+
 void swallow(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 } // namespace
 
-FuzzNetwork::FuzzNetwork(QList<QByteArray> bodies, QObject* parent)
-    : QNetworkAccessManager(parent), m_bodies(std::move(bodies))
+void FuzzNetwork::reset(QList<QByteArray> bodies)
 {
+    // What the last input left unread goes, as it did with that input's network.
+    qDeleteAll(findChildren<QNetworkReply*>(QString(), Qt::FindDirectChildrenOnly));
+    m_bodies = std::move(bodies);
+    m_requests = 0;
 }
 
 QNetworkReply* FuzzNetwork::createRequest(Operation op, const QNetworkRequest& request, QIODevice*)
@@ -63,6 +73,11 @@ QNetworkReply* FuzzNetwork::createRequest(Operation op, const QNetworkRequest& r
     const QByteArray body = m_requests < m_bodies.size() ? m_bodies.at(m_requests) : QByteArray();
     ++m_requests;
     return new FuzzReply(body, op, request, this);
+}
+
+FuzzView::FuzzView(QList<QByteArray> replies) : m_network(sharedNetwork())
+{
+    m_network.reset(std::move(replies));
 }
 
 namespace Fuzz {

@@ -36,8 +36,10 @@ QString scratchDirectory(const char* name);
 class FuzzNetwork : public QNetworkAccessManager
 {
 public:
-    explicit FuzzNetwork(QList<QByteArray> bodies, QObject* parent = nullptr);
+    explicit FuzzNetwork(QObject* parent = nullptr) : QNetworkAccessManager(parent) {}
 
+    // The next input's bodies; its replies start from the first again.
+    void reset(QList<QByteArray> bodies);
     int requests() const { return m_requests; }
 
 protected:
@@ -48,11 +50,12 @@ private:
     int m_requests = 0;
 };
 
-// The view a provider talks to: the network above and nothing else.
+// The view a provider talks to: the network above and nothing else. The network is made
+// once per run (making one costs more than most inputs) and given each input's replies.
 class FuzzView : public ViewInterface
 {
 public:
-    explicit FuzzView(QList<QByteArray> replies) : m_network(std::move(replies)) {}
+    explicit FuzzView(QList<QByteArray> replies);
 
     FuzzNetwork& network() { return m_network; }
     QNetworkAccessManager* networkAccessManager() override { return &m_network; }
@@ -64,5 +67,5 @@ public:
     void debugMessage(const QString&, const QStringList&) override {}
 
 private:
-    FuzzNetwork m_network;
+    FuzzNetwork& m_network;
 };

@@ -7,7 +7,6 @@
 #include <QJsonDocument>
 #include <QJsonParseError>
 #include <QLoggingCategory>
-#include <QRegularExpression>
 #include <QSaveFile>
 
 #ifdef Q_OS_UNIX
@@ -20,6 +19,20 @@ Q_LOGGING_CATEGORY(lcHostSetup, "quillon.host.setup")
 namespace {
 
 // A name beside the file that nothing else uses yet.
+// QSaveFile's temporary name: the file's name, a dot and six letters or digits.
+bool isCutShortCopy(const QString& candidate, const QString& fileName)
+{
+    if (candidate.size() != fileName.size() + 7 || !candidate.startsWith(fileName)
+        || candidate.at(fileName.size()) != QLatin1Char('.'))
+        return false;
+    for (int i = fileName.size() + 1; i < candidate.size(); ++i) {
+        const QChar c = candidate.at(i);
+        if (c.unicode() > 127 || !c.isLetterOrNumber())
+            return false;
+    }
+    return true;
+}
+
 QString freeAsideName(const QString& fileName)
 {
     const QString base = fileName + QStringLiteral(".corrupt-")
@@ -53,10 +66,8 @@ FileOutputInterface::FileOutputInterface(const QString& fileName, QObject* paren
     // What a save cut short by a crash left beside the file ("setup.json.XXXXXX"): it may hold
     // keys, and only this host writes its setup file.
     const QFileInfo info(fileName);
-    const QRegularExpression cutShort(QLatin1Char('^') + QRegularExpression::escape(info.fileName())
-                                      + QStringLiteral("\\.[A-Za-z0-9]{6}$"));
     for (const QFileInfo& leftover : QDir(info.absolutePath()).entryInfoList(QDir::Files | QDir::NoSymLinks))
-        if (cutShort.match(leftover.fileName()).hasMatch())
+        if (isCutShortCopy(leftover.fileName(), info.fileName()))
             QFile::remove(leftover.filePath());
 
     QFile file(fileName);

@@ -65,6 +65,30 @@ private slots:
         QCOMPARE(again.settings().value("PLAYOUT").toObject(), playout);
     }
 
+    // A save killed midway leaves its temporary copy, keys and all; the next start removes
+    // exactly those and nothing the operator put beside the file.
+    void leftoversOfACutShortSave_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("removed");
+        QTest::newRow("temporary") << "setup.json.Ab3dE9" << true;
+        QTest::newRow("five letters") << "setup.json.Ab3dE" << false;
+        QTest::newRow("seven letters") << "setup.json.Ab3dE9x" << false;
+        QTest::newRow("punctuation") << "setup.json.Ab-dE9" << false;
+        QTest::newRow("non-ASCII letter") << QString("setup.json.Ab3d\u00e99") << false;
+        QTest::newRow("other file") << "other.json.Ab3dE9" << false;
+        QTest::newRow("kept aside") << "setup.json.corrupt-20260101-000000" << false;
+    }
+    void leftoversOfACutShortSave()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, removed);
+        QTemporaryDir dir;
+        writeFile(dir.filePath(name), "{\"STREAMING\":[{\"StreamKey\":\"abcd\"}]}");
+        FileOutputInterface host(dir.filePath("setup.json"));
+        QCOMPARE(QFile::exists(dir.filePath(name)), !removed);
+    }
+
     void corruptFileIsKeptAside()
     {
         const QByteArray content = "{\"STREAMING\": [ {\"Name\": \"a\""; // truncated by a crash
