@@ -18,7 +18,6 @@ Q_LOGGING_CATEGORY(lcHostSetup, "quillon.host.setup")
 
 namespace {
 
-// A name beside the file that nothing else uses yet.
 // QSaveFile's temporary name: the file's name, a dot and six letters or digits.
 bool isCutShortCopy(const QString& candidate, const QString& fileName)
 {
@@ -33,6 +32,7 @@ bool isCutShortCopy(const QString& candidate, const QString& fileName)
     return true;
 }
 
+// A name beside the file that nothing else uses yet.
 QString freeAsideName(const QString& fileName)
 {
     const QString base = fileName + QStringLiteral(".corrupt-")
