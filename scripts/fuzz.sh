@@ -10,6 +10,8 @@
 # Exits non-zero on any crash, sanitizer report or leak; the input is left in
 # build-fuzz/artifacts/<name>/. STREAMING_FUZZ_MAX_SECONDS caps each run's time (the table
 # then shows how many inputs fitted); STREAMING_FUZZ_BUILD names another build folder.
+# STREAMING_FUZZ_WORKERS=N runs a target in N processes sharing its corpus folder (libFuzzer
+# reloads it), the inputs split between them; the table gives their sum.
 # clang-14 and libclang-rt-14-dev come from scripts/install-deps.sh --fuzz.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -30,6 +32,7 @@ for tool in clang++-14 llvm-symbolizer-14; do
 done
 
 build=${STREAMING_FUZZ_BUILD:-$root/build-fuzz}
+workers=${STREAMING_FUZZ_WORKERS:-1}
 start=$(date +%s)
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
       -DCMAKE_CXX_COMPILER=clang++-14 -DSTREAMING_FUZZ=ON \
@@ -89,12 +92,38 @@ for name in "${targets[@]}"; do
 
     began=$(date +%s%N)
     result=ok
-    ASAN_OPTIONS=$run_options "$binary" -runs="$inputs" -max_len="$(max_len "$name")" -timeout=25 \
-        -rss_limit_mb=4096 -print_final_stats=1 -artifact_prefix="$artifacts/" "${dict[@]}" "${limit[@]}" \
-        "$corpus" "${seeds[@]}" >"$log" 2>&1 || result=FAILED
+    pids=()
+    logs=()
+    for ((worker = 1; worker <= workers; worker++)); do
+        worker_log=$log
+        [ "$workers" -gt 1 ] && worker_log=$log.$worker
+        share=$(( inputs / workers + (worker <= inputs % workers ? 1 : 0) ))
+        ASAN_OPTIONS=$run_options "$binary" -runs="$share" -max_len="$(max_len "$name")" -timeout=25 \
+            -rss_limit_mb=4096 -print_final_stats=1 -artifact_prefix="$artifacts/" "${dict[@]}" "${limit[@]}" \
+            "$corpus" "${seeds[@]}" >"$worker_log" 2>&1 &
+        pids+=("$!")
+        logs+=("$worker_log")
+    done
+    # The first to fail stops the others: its input is what matters.
+    while [ ${#pids[@]} -gt 0 ]; do
+        finished=
+        status=0
+        wait -n -p finished "${pids[@]}" || status=$?
+        [ -n "$finished" ] || break
+        remaining=()
+        for pid in "${pids[@]}"; do [ "$pid" = "$finished" ] || remaining+=("$pid"); done
+        pids=("${remaining[@]}")
+        if [ "$status" -ne 0 ] && [ "$result" = ok ]; then
+            result=FAILED
+            [ ${#pids[@]} -eq 0 ] || kill "${pids[@]}" 2>/dev/null || true
+        fi
+    done
     ms=$(( ($(date +%s%N) - began) / 1000000 ))
-    done_inputs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log" | tail -1)
-    done_inputs=${done_inputs:-0}
+    done_inputs=0
+    for worker_log in "${logs[@]}"; do
+        units=$(sed -n 's/^stat::number_of_executed_units: *//p' "$worker_log" | tail -1)
+        done_inputs=$(( done_inputs + ${units:-0} ))
+    done
 
     # Every input the run kept, every seed and every regression once more, leaks checked.
     if [ "$result" = ok ]; then
@@ -102,7 +131,7 @@ for name in "${targets[@]}"; do
             "$binary" -runs=0 -max_len="$(max_len "$name")" -timeout=60 -artifact_prefix="$artifacts/" \
             "$corpus" "${seeds[@]}" >"$log.leaks" 2>&1 || result="FAILED (leak pass, $log.leaks)"
     else
-        result="FAILED ($log)"
+        result="FAILED (${logs[*]})"
     fi
     rate=$(( done_inputs * 1000 / (ms + 1) ))
     printf '%-12s %12s %7d.%01d %9s %s\n' "$name" "$done_inputs" $((ms / 1000)) $((ms % 1000 / 100)) "$rate" "$result"
