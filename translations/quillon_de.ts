@@ -362,6 +362,11 @@
     </message>
     <message>
         <location line="+2"/>
+        <source>Engine: FFmpeg at %1 did not answer; it is asked again when an output starts.</source>
+        <translation>Engine: FFmpeg unter %1 hat nicht geantwortet; es wird beim Start eines Ausgangs erneut gefragt.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Engine: FFmpeg is not installed; outputs cannot start.</source>
         <translation>Engine: FFmpeg ist nicht installiert; Ausgänge können nicht starten.</translation>
     </message>
@@ -379,7 +384,7 @@
         <translation>In den Ordner %1 kann nicht geschrieben werden; wählen Sie einen anderen Speicherort für „%2“.</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+21"/>
         <source>the encoder did not answer</source>
         <translation>der Encoder hat nicht geantwortet</translation>
     </message>
@@ -389,17 +394,27 @@
         <translation>der Encoder hat sie abgelehnt</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+9"/>
         <source>%1 cannot encode the settings of &quot;%2&quot; here: %3</source>
         <translation>%1 kann die Einstellungen von „%2“ hier nicht kodieren: %3</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+16"/>
+        <source>&quot;%1&quot; cannot start: FFmpeg at %2 does not answer.</source>
+        <translation>„%1“ kann nicht starten: FFmpeg unter %2 antwortet nicht.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>&quot;%1&quot; cannot start: FFmpeg is not installed.</source>
         <translation>„%1“ kann nicht starten: FFmpeg ist nicht installiert.</translation>
     </message>
     <message>
-        <location line="+107"/>
+        <location line="+108"/>
+        <source>The still cannot be grabbed: FFmpeg at %1 does not answer.</source>
+        <translation>Das Standbild kann nicht aufgenommen werden: FFmpeg unter %1 antwortet nicht.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>The still cannot be grabbed: FFmpeg is not installed.</source>
         <translation>Das Standbild kann nicht aufgenommen werden: FFmpeg ist nicht installiert.</translation>
     </message>
@@ -629,7 +644,7 @@
 <context>
     <name>FileOutputInterface</name>
     <message>
-        <location filename="../host/interface/fileoutputinterface.cpp" line="+67"/>
+        <location filename="../host/interface/fileoutputinterface.cpp" line="+78"/>
         <source>Setup file could not be read: %1</source>
         <translation>Die Setup-Datei konnte nicht gelesen werden: %1</translation>
     </message>

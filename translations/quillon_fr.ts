@@ -362,6 +362,11 @@
     </message>
     <message>
         <location line="+2"/>
+        <source>Engine: FFmpeg at %1 did not answer; it is asked again when an output starts.</source>
+        <translation>Moteur&#xa0;: FFmpeg (%1) n&apos;a pas répondu&#xa0;; il sera interrogé de nouveau au démarrage d&apos;une sortie.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
         <source>Engine: FFmpeg is not installed; outputs cannot start.</source>
         <translation>Moteur&#xa0;: FFmpeg n&apos;est pas installé&#xa0;; les sorties ne peuvent pas démarrer.</translation>
     </message>
@@ -379,7 +384,7 @@
         <translation>Impossible d&apos;écrire dans le dossier %1&#xa0;; choisissez un autre emplacement pour «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
-        <location line="+20"/>
+        <location line="+21"/>
         <source>the encoder did not answer</source>
         <translation>l&apos;encodeur n&apos;a pas répondu</translation>
     </message>
@@ -389,17 +394,27 @@
         <translation>l&apos;encodeur les a refusés</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+9"/>
         <source>%1 cannot encode the settings of &quot;%2&quot; here: %3</source>
         <translation>%1 ne peut pas encoder ici les réglages de «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
     </message>
     <message>
-        <location line="+7"/>
+        <location line="+16"/>
+        <source>&quot;%1&quot; cannot start: FFmpeg at %2 does not answer.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas démarrer&#xa0;: FFmpeg (%2) ne répond pas.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>&quot;%1&quot; cannot start: FFmpeg is not installed.</source>
         <translation>«&#xa0;%1&#xa0;» ne peut pas démarrer&#xa0;: FFmpeg n&apos;est pas installé.</translation>
     </message>
     <message>
-        <location line="+107"/>
+        <location line="+108"/>
+        <source>The still cannot be grabbed: FFmpeg at %1 does not answer.</source>
+        <translation>Impossible de capturer l&apos;image fixe&#xa0;: FFmpeg (%1) ne répond pas.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
         <source>The still cannot be grabbed: FFmpeg is not installed.</source>
         <translation>Impossible de capturer l&apos;image fixe&#xa0;: FFmpeg n&apos;est pas installé.</translation>
     </message>
@@ -629,7 +644,7 @@
 <context>
     <name>FileOutputInterface</name>
     <message>
-        <location filename="../host/interface/fileoutputinterface.cpp" line="+67"/>
+        <location filename="../host/interface/fileoutputinterface.cpp" line="+78"/>
         <source>Setup file could not be read: %1</source>
         <translation>Le fichier de configuration n&apos;a pas pu être lu&#xa0;: %1</translation>
     </message>

@@ -21,6 +21,9 @@ EngineHost::EngineHost(ActivityLog* log, QObject* parent)
     });
     if (m_backend->capabilities().isAvailable())
         m_log->info(tr("Engine: FFmpeg at %1.").arg(QDir::toNativeSeparators(m_backend->capabilities().program())));
+    else if (m_backend->capabilities().isInstalled())
+        m_log->warning(tr("Engine: FFmpeg at %1 did not answer; it is asked again when an output starts.")
+                           .arg(QDir::toNativeSeparators(m_backend->capabilities().installedAt())));
     else
         m_log->warning(tr("Engine: FFmpeg is not installed; outputs cannot start."));
 }

@@ -78,12 +78,13 @@ bool FfmpegBackend::tryOnce(const FfmpegJob& job, const CodecPreset& preset, QSt
     if (job.trialArguments.isEmpty())
         return true;
     const QString cacheKey = job.trialArguments.join(QChar(0));
+    QString error = m_trials.value(cacheKey);
     if (!m_trials.contains(cacheKey)) {
         GuardedProcess process;
         process.setStandardInputFile(QProcess::nullDevice());
         process.start(m_caps.program(), job.trialArguments);
-        QString error;
-        if (!process.waitForFinished(20000)) {
+        const bool finished = process.waitForFinished(m_caps.answerTimeout());
+        if (!finished) {
             process.kill();
             process.waitForFinished(2000);
             error = tr("the encoder did not answer");
@@ -93,19 +94,31 @@ bool FfmpegBackend::tryOnce(const FfmpegJob& job, const CodecPreset& preset, QSt
                 error = tr("the encoder refused them");
         }
         QFile::remove(job.trialArguments.last());
-        m_trials.insert(cacheKey, error);
+        // Only the encoder's verdict is kept: a trial cut short by load says nothing for the next start.
+        if (finished && process.exitStatus() == QProcess::NormalExit)
+            m_trials.insert(cacheKey, error);
     }
-    const QString error = m_trials.value(cacheKey);
     if (error.isEmpty())
         return true;
     *refusal = tr("%1 cannot encode the settings of \"%2\" here: %3").arg(preset.videoCodec().codec, preset.name(), error);
     return false;
 }
 
+bool FfmpegBackend::answers()
+{
+    // A probe that timed out at start-up says nothing about now; ask again.
+    if (!m_caps.isAvailable() && m_caps.isInstalled())
+        m_caps = FfmpegCapabilities::probe(m_caps.installedAt(), m_caps.answerTimeout());
+    return m_caps.isAvailable();
+}
+
 bool FfmpegBackend::start(const QString& key, const CodecPreset& preset, const ProjectPreset& project, QString* refusal)
 {
-    if (!m_caps.isAvailable()) {
-        *refusal = tr("\"%1\" cannot start: FFmpeg is not installed.").arg(preset.name());
+    if (!answers()) {
+        *refusal = m_caps.isInstalled()
+            ? tr("\"%1\" cannot start: FFmpeg at %2 does not answer.")
+                  .arg(preset.name(), QDir::toNativeSeparators(m_caps.installedAt()))
+            : tr("\"%1\" cannot start: FFmpeg is not installed.").arg(preset.name());
         return false;
     }
     stop(key);
@@ -211,8 +224,11 @@ QList<qint64> FfmpegBackend::processIds() const
 
 bool FfmpegBackend::grab(int source, const QString& path, const ProjectPreset& project, QString* refusal)
 {
-    if (!m_caps.isAvailable()) {
-        *refusal = tr("The still cannot be grabbed: FFmpeg is not installed.");
+    if (!answers()) {
+        *refusal = m_caps.isInstalled()
+            ? tr("The still cannot be grabbed: FFmpeg at %1 does not answer.")
+                  .arg(QDir::toNativeSeparators(m_caps.installedAt()))
+            : tr("The still cannot be grabbed: FFmpeg is not installed.");
         return false;
     }
     QStringList arguments;

@@ -41,6 +41,7 @@ public:
     bool grab(int source, const QString& path, const ProjectPreset& project, QString* refusal) override;
 
 private:
+    bool answers();
     bool prepareRecording(const CodecPreset& preset, const ProjectPreset& project, FfmpegJob* job,
                           QString* refusal) const;
     bool tryOnce(const FfmpegJob& job, const CodecPreset& preset, QString* refusal);

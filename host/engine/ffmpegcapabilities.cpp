@@ -1,18 +1,21 @@
 #include "engine/ffmpegcapabilities.h"
 
+#include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
-FfmpegCapabilities FfmpegCapabilities::probe(const QString& program)
+FfmpegCapabilities FfmpegCapabilities::probe(const QString& program, int timeoutMs)
 {
     FfmpegCapabilities caps;
+    caps.m_timeoutMs = timeoutMs;
     const QString path = program.contains(QLatin1Char('/')) ? program : QStandardPaths::findExecutable(program);
-    if (path.isEmpty())
+    if (path.isEmpty() || !QFileInfo(path).isExecutable())
         return caps;
+    caps.m_installed = path;
     QProcess process;
     process.start(path, {QStringLiteral("-hide_banner"), QStringLiteral("-encoders")});
-    if (!process.waitForFinished(10000) || process.exitStatus() != QProcess::NormalExit) {
+    if (!process.waitForFinished(timeoutMs) || process.exitStatus() != QProcess::NormalExit) {
         process.kill();
         process.waitForFinished(1000);
         return caps;
@@ -28,9 +31,12 @@ FfmpegCapabilities FfmpegCapabilities::probe(const QString& program)
     return caps;
 }
 
-FfmpegCapabilities FfmpegCapabilities::withEncoders(const QString& program, const QSet<QString>& encoders)
+FfmpegCapabilities FfmpegCapabilities::withEncoders(const QString& program, const QSet<QString>& encoders,
+                                                    int timeoutMs)
 {
     FfmpegCapabilities caps;
+    caps.m_timeoutMs = timeoutMs;
+    caps.m_installed = program;
     caps.m_program = program;
     caps.m_encoders = encoders;
     return caps;
