@@ -31,11 +31,9 @@ FfmpegCapabilities FfmpegCapabilities::probe(const QString& program, int timeout
     return caps;
 }
 
-FfmpegCapabilities FfmpegCapabilities::withEncoders(const QString& program, const QSet<QString>& encoders,
-                                                    int timeoutMs)
+FfmpegCapabilities FfmpegCapabilities::withEncoders(const QString& program, const QSet<QString>& encoders)
 {
     FfmpegCapabilities caps;
-    caps.m_timeoutMs = timeoutMs;
     caps.m_installed = program;
     caps.m_program = program;
     caps.m_encoders = encoders;

@@ -11,11 +11,14 @@
 class HOST_EXPORT FfmpegCapabilities
 {
 public:
-    // program: a path, or a name looked up in PATH. It answers in about 50 ms when idle.
-    static FfmpegCapabilities probe(const QString& program = QStringLiteral("ffmpeg"), int timeoutMs = 30000);
+    // FFmpeg lists its encoders in well under a second, even on a busy machine.
+    static constexpr int defaultAnswerTimeoutMs = 30000;
+
+    // program: a path, or a name looked up in PATH.
+    static FfmpegCapabilities probe(const QString& program = QStringLiteral("ffmpeg"),
+                                    int timeoutMs = defaultAnswerTimeoutMs);
     // A fixed set, for callers that know what they run against.
-    static FfmpegCapabilities withEncoders(const QString& program, const QSet<QString>& encoders,
-                                           int timeoutMs = 30000);
+    static FfmpegCapabilities withEncoders(const QString& program, const QSet<QString>& encoders);
 
     bool isAvailable() const { return !m_program.isEmpty(); }
     bool isInstalled() const { return !m_installed.isEmpty(); }
@@ -29,7 +32,7 @@ public:
 
 private:
     QString m_installed;
-    int m_timeoutMs = 0;
+    int m_timeoutMs = defaultAnswerTimeoutMs;
     QString m_program;
     QSet<QString> m_encoders;
 };
