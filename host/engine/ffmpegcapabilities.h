@@ -11,7 +11,8 @@
 class HOST_EXPORT FfmpegCapabilities
 {
 public:
-    // FFmpeg lists its encoders in well under a second, even on a busy machine.
+    // FFmpeg lists its encoders in well under a second when idle; the margin is for a
+    // machine under heavy load, where ten seconds proved too few.
     static constexpr int defaultAnswerTimeoutMs = 30000;
 
     // program: a path, or a name looked up in PATH.
